@@ -12,6 +12,8 @@ function(orvan_add_test)
         ORVAN_BINARY_DIR="${CMAKE_BINARY_DIR}"
         ORVAN_PLUGIN_DIR="${ORVAN_PLUGIN_BUILD_DIR}")
     set_target_properties(${ARG_NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    # Tests read the plug-in folder (Info.plist, string tables, resources).
+    add_dependencies(${ARG_NAME} orvan_bundle)
     gtest_discover_tests(${ARG_NAME}
         DISCOVERY_MODE PRE_TEST
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0"

@@ -1,0 +1,56 @@
+// Preference files: per-user files read and written whole by name, and shared
+// data files in the "Orvan/" folder of the machine-wide data folder. Every
+// user reads the whole file, changes its part and writes it back; writes
+// replace the file atomically, so a crash or a full disk never leaves a
+// half-written file behind.
+#pragma once
+
+#include "settings/PropertyValue.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace orvan {
+
+// $XDG_CONFIG_HOME/orvan (empty when no configuration folder can be found).
+QString UserPreferencesFolder();
+
+// The machine-wide data folder that holds "Orvan/": $ORVAN_SHARED_DATA_DIR
+// when set, else /var/lib/orvan when it exists and is writable, else the
+// user's own data folder ($XDG_DATA_HOME/orvan), so that a machine where the
+// administrator made no shared folder still keeps its data. Empty when none.
+QString ApplicationSupportFolder();
+
+// The per-user file's content as a dictionary: an empty dictionary when the
+// file is missing, unreadable, not a property list or not a dictionary.
+// nullopt only when the preferences folder itself cannot be found.
+std::optional<PropertyValue> CopyUserPreferences(const QString& fileName);
+
+// Writes the value to the per-user file, replacing it atomically (the folder
+// is created when missing). On failure writes
+// "WriteUserPreferences() failed (<code>)" to the standard error stream and
+// returns false.
+bool WriteUserPreferences(const QString& fileName, const PropertyValue& value);
+
+// Location of a shared data file: <application support>/Orvan/<fileName>,
+// creating the "Orvan" folder on first use; empty when there is no
+// application-support folder or the folder cannot be created. The name is
+// appended as it is.
+QString CopyPreferenceFileURL(const QString& fileName);
+
+// The shared data file's content; nullopt when it cannot be located, read or
+// parsed. A parse error is written to the standard error stream as
+// "CopyXMLData()::CFPropertyListCreateFromXMLData() error: <what and where>".
+std::optional<PropertyValue> CopyXMLData(const QString& fileName);
+
+// Writes a shared data file atomically; false (with a diagnostic) on failure.
+bool WriteXMLData(const QString& fileName, const PropertyValue& value);
+
+// Writes a property list to any path atomically; the error code of the
+// failure (a QFileDevice::FileError, or -50 when the value cannot be written
+// as a property list) goes to errorCode.
+bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode = nullptr,
+                           QString* errorText = nullptr);
+
+} // namespace orvan
