@@ -1,0 +1,237 @@
+#include "specialpages/ExceptionPageList.h"
+#include "specialpages/Insert.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace orvan;
+
+namespace {
+
+// A range and the tag that tells which added range it came from; the tag
+// travels in lightenDarken, a setting a split or cut range must keep.
+struct TaggedRange {
+    std::int32_t start;
+    std::int32_t end;
+    std::int32_t tag;
+
+    friend bool operator==(const TaggedRange&, const TaggedRange&) = default;
+    friend std::ostream& operator<<(std::ostream& os, const TaggedRange& r)
+    {
+        return os << r.start << "-" << r.end << "#" << r.tag;
+    }
+};
+
+std::unique_ptr<ExceptionPage> makeRange(const TaggedRange& range)
+{
+    auto page = std::make_unique<ExceptionPage>();
+    page->setStartPage(range.start);
+    page->setEndPage(range.end);
+    page->setLightenDarken(range.tag);
+    return page;
+}
+
+void addRange(ExceptionPageList& list, const TaggedRange& range)
+{
+    const auto page = makeRange(range);
+    const SpecialPage* pages[] = {page.get()};
+    ASSERT_EQ(list.add(pages), kNoError);
+}
+
+std::vector<TaggedRange> contents(const ExceptionPageList& list)
+{
+    std::vector<TaggedRange> ranges;
+    for (long i = 0; i < list.count(); ++i) {
+        const ExceptionPage* page = list.pageAtIndex(i);
+        ranges.push_back({page->startPage(), page->endPage(), page->lightenDarken()});
+    }
+    return ranges;
+}
+
+struct WalkCase {
+    const char* name;
+    std::vector<TaggedRange> held;
+    std::vector<TaggedRange> added;
+    std::vector<TaggedRange> expected;
+};
+
+} // namespace
+
+TEST(ExceptionPageListAdd, EveryBranchOfTheWalk)
+{
+    const WalkCase cases[] = {
+        {"into an empty list", {}, {{4, 6, 9}}, {{4, 6, 9}}},
+        {"after the last", {{1, 4, 1}}, {{6, 8, 9}}, {{1, 4, 1}, {6, 8, 9}}},
+        {"just after", {{5, 10, 1}}, {{11, 12, 9}}, {{5, 10, 1}, {11, 12, 9}}},
+        {"before the first", {{6, 8, 1}}, {{1, 4, 9}}, {{1, 4, 9}, {6, 8, 1}}},
+        {"just before", {{5, 10, 1}}, {{1, 4, 9}}, {{1, 4, 9}, {5, 10, 1}}},
+        {"in a gap", {{1, 2, 1}, {8, 9, 2}}, {{4, 5, 9}}, {{1, 2, 1}, {4, 5, 9}, {8, 9, 2}}},
+        {"covering two", {{5, 10, 1}, {12, 15, 2}}, {{1, 20, 9}}, {{1, 20, 9}}},
+        {"the same range", {{5, 10, 1}}, {{5, 10, 9}}, {{5, 10, 9}}},
+        {"same end, starting earlier", {{5, 10, 1}}, {{3, 10, 9}}, {{3, 10, 9}}},
+        {"strictly inside", {{1, 20, 1}}, {{5, 10, 9}}, {{1, 4, 1}, {5, 10, 9}, {11, 20, 1}}},
+        {"one page inside", {{1, 3, 1}}, {{2, 2, 9}}, {{1, 1, 1}, {2, 2, 9}, {3, 3, 1}}},
+        {"over the start", {{5, 10, 1}}, {{3, 6, 9}}, {{3, 6, 9}, {7, 10, 1}}},
+        {"over the end", {{5, 10, 1}}, {{8, 12, 9}}, {{5, 7, 1}, {8, 12, 9}}},
+        {"same end, starting inside", {{5, 10, 1}}, {{7, 10, 9}}, {{5, 6, 1}, {7, 10, 9}}},
+        {"same start, shorter", {{5, 10, 1}}, {{5, 7, 9}}, {{5, 7, 9}, {8, 10, 1}}},
+        {"same start, longer", {{5, 10, 1}, {12, 15, 2}}, {{5, 13, 9}}, {{5, 13, 9}, {14, 15, 2}}},
+        {"over an end into the next",
+         {{5, 10, 1}, {12, 20, 2}},
+         {{8, 14, 9}},
+         {{5, 7, 1}, {8, 14, 9}, {15, 20, 2}}},
+        {"across three",
+         {{1, 3, 1}, {5, 7, 2}, {9, 11, 3}},
+         {{2, 10, 9}},
+         {{1, 1, 1}, {2, 10, 9}, {11, 11, 3}}},
+        {"page 0 and the last page",
+         {{0, 99999, 1}},
+         {{0, 0, 8}, {99999, 99999, 9}},
+         {{0, 0, 8}, {1, 99998, 1}, {99999, 99999, 9}}},
+        {"a chain of new ranges",
+         {},
+         {{1, 10, 7}, {3, 4, 8}, {2, 8, 9}},
+         {{1, 1, 7}, {2, 8, 9}, {9, 10, 7}}},
+        {"a chain that splits a split",
+         {{1, 30, 1}},
+         {{10, 20, 8}, {12, 14, 9}, {25, 40, 7}},
+         {{1, 9, 1}, {10, 11, 8}, {12, 14, 9}, {15, 20, 8}, {21, 24, 1}, {25, 40, 7}}},
+    };
+    for (const WalkCase& c : cases) {
+        ExceptionPageList list;
+        for (const TaggedRange& range : c.held)
+            addRange(list, range);
+        for (const TaggedRange& range : c.added)
+            addRange(list, range);
+        EXPECT_EQ(contents(list), c.expected) << c.name;
+    }
+}
+
+TEST(ExceptionPageListAdd, SplitHalfIsACloneWithTheSameSettings)
+{
+    ExceptionPageList list;
+    auto whole = makeRange({1, 20, 1});
+    whole->setPlex(kPlexDuplex);
+    whole->setHalftoneScreen(3);
+    whole->imageShift().frontShiftX = 25;
+    whole->stock().setType(24);
+    whole->stock().setModulus(5);
+    const SpecialPage* first[] = {whole.get()};
+    list.add(first);
+    addRange(list, {5, 10, 9});
+
+    ASSERT_EQ(list.count(), 3);
+    const ExceptionPage* head = list.pageAtIndex(0);
+    const ExceptionPage* tail = list.pageAtIndex(2);
+    EXPECT_NE(head, tail);
+    EXPECT_NE(head, whole.get()); // the list holds its own copies
+    for (const ExceptionPage* half : {head, tail}) {
+        EXPECT_EQ(half->plex(), kPlexDuplex);
+        EXPECT_EQ(half->halftoneScreen(), 3);
+        EXPECT_EQ(half->imageShift().frontShiftX, 25);
+        EXPECT_EQ(half->stock(), whole->stock());
+    }
+    // The caller's page is untouched.
+    EXPECT_EQ(whole->startPage(), 1);
+    EXPECT_EQ(whole->endPage(), 20);
+}
+
+TEST(ExceptionPageListAdd, SkipsReversedRangesAndOtherKinds)
+{
+    ExceptionPageList list;
+    addRange(list, {5, 10, 1});
+    const auto reversed = makeRange({6, 5, 9}); // would never end the walk
+    const Insert insert;
+    const SpecialPage* pages[] = {reversed.get(), &insert, nullptr};
+    EXPECT_EQ(list.add(pages), kNoError);
+    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{5, 10, 1}}));
+}
+
+// Many random sequences of ranges added one by one, against a model that
+// records for every page the newest range that contains it.
+TEST(ExceptionPageListAdd, RandomSequencesMatchTheNewestRangeModel)
+{
+    constexpr int kPages = 40;
+    std::mt19937 random(20240611);
+    std::uniform_int_distribution<int> page(0, kPages - 1);
+    std::uniform_int_distribution<int> length(1, 8);
+    for (int sequence = 0; sequence < 2000; ++sequence) {
+        ExceptionPageList list;
+        std::array<std::int32_t, kPages + 8> owner{}; // 0: no range
+        const int steps = 1 + sequence % 12;
+        for (int tag = 1; tag <= steps; ++tag) {
+            const int start = page(random);
+            // Mostly short ranges, sometimes long ones that cover others.
+            const int end = std::min(kPages + 7, start + (tag % 4 == 0 ? 4 * length(random) : length(random) - 1));
+            addRange(list, {start, end, tag});
+            for (int p = start; p <= end; ++p)
+                owner[p] = tag;
+
+            std::array<std::int32_t, kPages + 8> seen{};
+            std::int32_t previousEnd = -1;
+            for (const TaggedRange& range : contents(list)) {
+                ASSERT_LE(range.start, range.end) << "sequence " << sequence;
+                ASSERT_GT(range.start, previousEnd) << "sequence " << sequence << ": unsorted or overlapping";
+                previousEnd = range.end;
+                for (int p = range.start; p <= range.end; ++p)
+                    seen[p] = range.tag;
+            }
+            ASSERT_EQ(seen, owner) << "sequence " << sequence << " step " << tag;
+        }
+    }
+}
+
+TEST(ExceptionPageListUpdate, ReplacesThePageByIdentity)
+{
+    ExceptionPageList list;
+    addRange(list, {1, 4, 1});
+    addRange(list, {6, 9, 2});
+    ExceptionPage* edited = list.pageAtIndex(1);
+
+    // An equal range that is not in the list changes nothing.
+    const auto stranger = makeRange({6, 9, 2});
+    const auto replacement = makeRange({3, 7, 9});
+    const SpecialPage* pages[] = {replacement.get()};
+    EXPECT_EQ(list.update(stranger.get(), pages), kNoError);
+    EXPECT_EQ(list.count(), 2);
+
+    EXPECT_EQ(list.update(edited, pages), kNoError);
+    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{1, 2, 1}, {3, 7, 9}}));
+    EXPECT_EQ(list.indexOfPage(edited), -1);
+
+    // Editing into several ranges, as a typed "1, 5-6" gives.
+    const auto a = makeRange({1, 1, 10});
+    const auto b = makeRange({5, 6, 11});
+    const SpecialPage* two[] = {a.get(), b.get()};
+    EXPECT_EQ(list.update(list.pageAtIndex(1), two), kNoError);
+    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{1, 1, 10}, {2, 2, 1}, {5, 6, 11}}));
+}
+
+TEST(ExceptionPageListOwnership, RemoveClearAndCopies)
+{
+    ExceptionPageList list;
+    addRange(list, {1, 4, 1});
+    addRange(list, {6, 9, 2});
+    addRange(list, {12, 12, 3});
+
+    const ExceptionPageList copy(list);
+    auto cloned = list.clone();
+    EXPECT_EQ(contents(copy), contents(list));
+    EXPECT_EQ(contents(*cloned), contents(list));
+    EXPECT_NE(copy.pageAtIndex(0), list.pageAtIndex(0));
+
+    list.remove(list.pageAtIndex(1));
+    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{1, 4, 1}, {12, 12, 3}}));
+    list.remove(copy.pageAtIndex(0)); // another list's page
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(list.pageAtIndex(2), nullptr);
+    EXPECT_EQ(list.pageAtIndex(-1), nullptr);
+
+    ExceptionPageList assigned;
+    assigned = list;
+    list.clear();
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(assigned.count(), 2);
+    EXPECT_EQ(copy.count(), 3);
+}
