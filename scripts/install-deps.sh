@@ -13,7 +13,7 @@ packages=(
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   ghostscript poppler-utils
   fonts-liberation fonts-dejavu-core fonts-droid-fallback
-  lcdf-typetools
+  lcdf-typetools hyperfine
   xvfb xauth
 )
 
