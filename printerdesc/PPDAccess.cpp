@@ -1,0 +1,255 @@
+#include "printerdesc/PPDAccess.h"
+
+#include "settings/PrintSession.h"
+#include "settings/SettingMaps.h"
+#include "settings/Ticket.h"
+
+#include <QFile>
+
+#include <array>
+#include <cstdio>
+
+namespace orvan {
+
+namespace {
+
+// The longest PPD path accepted, in bytes.
+constexpr qsizetype kMaxPPDPathLength = 1024;
+
+PpdFilePtr& CurrentPPD()
+{
+    static PpdFilePtr current;
+    return current;
+}
+
+const PPDChoiceMap* ChoiceMapForKeyword(const QString& mainKeyword)
+{
+    if (mainKeyword.isEmpty())
+        return nullptr;
+    for (const MainKeywordMap* row = _MainKeywordMap; row->mainKeyword; ++row) {
+        if (mainKeyword == QLatin1StringView(row->mainKeyword))
+            return row->choices;
+    }
+    return nullptr;
+}
+
+// The encoding libcups hands the PPD's strings out in. It converts the texts
+// of a file without "*LanguageEncoding" (read as Latin 1) and of the
+// encodings it knows to UTF-8; other files come through byte for byte.
+TextEncoding DeliveredEncoding(ppd_file_t* ppd)
+{
+    if (!ppd)
+        return TextEncoding::MacRoman;
+    const QByteArray entry = PpdLanguageEncodingEntry(ppd);
+    static constexpr std::array kConvertedByLibcups = {"ISOLatin1", "ISOLatin2", "ISOLatin5",
+                                                       "JIS83-RKSJ", "MacStandard", "WindowsANSI"};
+    if (entry.isEmpty())
+        return TextEncoding::UTF8;
+    for (const char* name : kConvertedByLibcups) {
+        if (entry.compare(name, Qt::CaseInsensitive) == 0)
+            return TextEncoding::UTF8;
+    }
+    return PPDGetEncoding(ppd);
+}
+
+QString Decode(const QByteArray& bytes, TextEncoding encoding)
+{
+    if (auto text = decodeText(bytes, encoding))
+        return *text;
+    if (auto text = decodeText(bytes, TextEncoding::MacRoman))
+        return *text;
+    return QString::fromLatin1(bytes);
+}
+
+QByteArray Encode(const QString& text, TextEncoding encoding)
+{
+    if (auto bytes = encodeText(text, encoding))
+        return *bytes;
+    return text.toUtf8();
+}
+
+void WriteDiagnostic(const char* message, const QString& what)
+{
+    std::fprintf(stderr, "%s%s\n", message, what.toLocal8Bit().constData());
+}
+
+} // namespace
+
+ppd_file_t* PPDGetCurrent()
+{
+    PpdFilePtr& current = CurrentPPD();
+    if (current)
+        return current.get();
+    const PrintSession* session = GetCurrentPrintSession();
+    if (!session || !session->currentPrinter())
+        return nullptr;
+    const QByteArray path = QFile::encodeName(session->currentPrinter()->ppdPath);
+    if (path.isEmpty() || path.size() > kMaxPPDPathLength)
+        return nullptr;
+    // No localisation hook: the dialog shows the PPD's own texts.
+    current = OpenPPDFile(QFile::decodeName(path));
+    return current.get();
+}
+
+void PPDCloseCurrent()
+{
+    CurrentPPD().reset();
+}
+
+void PPDSetCurrent(PpdFilePtr ppd)
+{
+    CurrentPPD() = std::move(ppd);
+}
+
+std::optional<QString> PPDCopyCurrentChoice(const Ticket* ticket, const QString& mainKeyword)
+{
+    if (!ticket || mainKeyword.isEmpty())
+        return std::nullopt;
+    const PropertyValue* choice = ticket->ppdDictionary().find(mainKeyword);
+    if (!choice || !choice->isString())
+        return std::nullopt;
+    return choice->toString();
+}
+
+void PPDSetCurrentChoice(Ticket* ticket, const QString& mainKeyword, const QString& choice)
+{
+    if (!ticket || mainKeyword.isEmpty() || choice.isNull())
+        return;
+    ticket->ppdDictionary().insert(mainKeyword, choice);
+}
+
+std::optional<QString> PPDCopyDefaultChoice(ppd_file_t* ppd, const QString& mainKeyword)
+{
+    if (!ppd || mainKeyword.isEmpty())
+        return std::nullopt;
+    const auto choice = PpdDefaultChoice(ppd, PPDEncodeString(ppd, mainKeyword));
+    if (!choice)
+        return std::nullopt;
+    return PPDDecodeString(ppd, *choice);
+}
+
+std::int32_t PPDTicketValueForChoice(const QString& mainKeyword, const QString& choice)
+{
+    const PPDChoiceMap* map = ChoiceMapForKeyword(mainKeyword);
+    if (!map || choice.isNull())
+        return -1;
+    for (const PPDChoiceMap* row = map; row->choice; ++row) {
+        if (choice == QLatin1StringView(row->choice))
+            return row->ticketValue;
+    }
+    return -1;
+}
+
+const char* PPDChoiceForTicketValue(const QString& mainKeyword, std::int32_t value)
+{
+    const PPDChoiceMap* map = ChoiceMapForKeyword(mainKeyword);
+    if (!map)
+        return nullptr;
+    for (const PPDChoiceMap* row = map; row->choice; ++row) {
+        if (row->ticketValue == value)
+            return row->choice;
+    }
+    return nullptr;
+}
+
+bool PPDGetTicketValueForChoiceOrDefault(ppd_file_t* ppd, const Ticket* ticket, const QString& mainKeyword,
+                                         std::int32_t* value)
+{
+    if (!value)
+        return false;
+    std::optional<QString> choice = PPDCopyCurrentChoice(ticket, mainKeyword);
+    if (!choice)
+        choice = PPDCopyDefaultChoice(ppd, mainKeyword);
+    if (!choice)
+        return false;
+    *value = PPDTicketValueForChoice(mainKeyword, *choice);
+    return true;
+}
+
+std::optional<QString> PPDCopyChoiceText(ppd_file_t* ppd, const QString& mainKeyword, const QString& choice)
+{
+    if (!ppd || mainKeyword.isEmpty() || choice.isNull())
+        return std::nullopt;
+    const auto text = PpdChoiceText(ppd, PPDEncodeString(ppd, mainKeyword), PPDEncodeString(ppd, choice));
+    if (!text)
+        return std::nullopt;
+    return PPDDecodeString(ppd, *text);
+}
+
+int PPDPopulateMenuWithChoices(MenuModel* menu, ppd_file_t* ppd, const QString& mainKeyword,
+                               std::uint32_t commandId, bool checkConstraints)
+{
+    if (!menu || !ppd || mainKeyword.isEmpty())
+        return 0;
+    if (checkConstraints)
+        PpdMarkDefaults(ppd);
+    menu->clear();
+    const TextEncoding encoding = DeliveredEncoding(ppd);
+    const QByteArray keyword = Encode(mainKeyword, encoding);
+    const auto choices = PpdOptionChoices(ppd, keyword);
+    if (!choices) {
+        WriteDiagnostic("Expected PPD option not found: ", mainKeyword);
+        return menu->count();
+    }
+    for (const PpdChoice& choice : *choices) {
+        // A choice that passes stays marked until the next one is tried, so
+        // afterwards the marks reflect the last choice tried.
+        if (checkConstraints && PpdMarkOption(ppd, keyword, choice.keyword) > 0)
+            continue;
+        const QString choiceKeyword = Decode(choice.keyword, encoding);
+        // A value of -1 counts as unknown, even where a map gives it on
+        // purpose ("Lighten1").
+        const std::int32_t value = PPDTicketValueForChoice(mainKeyword, choiceKeyword);
+        if (value == -1) {
+            WriteDiagnostic("Skipped unrecognized choice in PPD: ", choiceKeyword);
+            continue;
+        }
+        menu->append(MenuItem{Decode(choice.text, encoding), commandId, value, false});
+    }
+    return menu->count();
+}
+
+TextEncoding PPDGetEncoding(ppd_file_t* ppd)
+{
+    if (!ppd)
+        return TextEncoding::MacRoman;
+    const QByteArray entry = PpdLanguageEncodingEntry(ppd);
+    if (entry == "ISOLatin1")
+        return TextEncoding::ISOLatin1;
+    if (entry == "ISOLatin2")
+        return TextEncoding::ISOLatin2;
+    if (entry == "ISOLatin5")
+        return TextEncoding::ISOLatin5;
+    if (entry == "JIS83-RKSJ")
+        return TextEncoding::ShiftJIS;
+    if (entry == "UTF-8" || entry == "UTF8")
+        return TextEncoding::UTF8;
+    return TextEncoding::MacRoman;
+}
+
+QString PPDDecodeString(ppd_file_t* ppd, const QByteArray& bytes)
+{
+    return Decode(bytes, DeliveredEncoding(ppd));
+}
+
+QByteArray PPDEncodeString(ppd_file_t* ppd, const QString& text)
+{
+    return Encode(text, DeliveredEncoding(ppd));
+}
+
+void GetMediaLimits(double* minimumWidth, double* minimumHeight, double* maximumWidth, double* maximumHeight)
+{
+    PpdCustomSizeLimits limits{432, 432, 864, 864};
+    if (const auto custom = PpdCustomLimits(PPDGetCurrent()))
+        limits = *custom;
+    if (minimumWidth)
+        *minimumWidth = limits.minimumWidth;
+    if (minimumHeight)
+        *minimumHeight = limits.minimumHeight;
+    if (maximumWidth)
+        *maximumWidth = limits.maximumWidth;
+    if (maximumHeight)
+        *maximumHeight = limits.maximumHeight;
+}
+
+} // namespace orvan
