@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 
 namespace orvan {
@@ -36,6 +37,19 @@ std::uint16_t numGlyphsOf(const Bytes& font)
 class RealFont : public testing::TestWithParam<const char*>
 {
 };
+
+// "dejavu/DejaVuSans-Bold.ttf" gives "DejaVuSansBold".
+std::string testName(std::string_view path)
+{
+    path = path.substr(path.rfind('/') + 1);
+    path = path.substr(0, path.rfind('.'));
+    std::string name;
+    for (char c : path) {
+        if (std::isalnum(static_cast<unsigned char>(c)))
+            name += c;
+    }
+    return name;
+}
 
 TEST_P(RealFont, ProgramCarriesTheWholeFileInStringsWithinTheLimit)
 {
@@ -90,7 +104,8 @@ TEST_P(RealFont, EveryNamedGlyphIsInCharStringsInGlyphOrder)
 INSTANTIATE_TEST_SUITE_P(Type42, RealFont,
                          testing::Values("dejavu/DejaVuSans.ttf", "dejavu/DejaVuSerif-Bold.ttf",
                                          "liberation/LiberationSans-Regular.ttf",
-                                         "liberation/LiberationMono-Italic.ttf"));
+                                         "liberation/LiberationMono-Italic.ttf"),
+                         [](const auto& info) { return testName(info.param); });
 
 // Its large tables leave no break point within 65534 bytes after the first
 // string, which ends where hmtx starts.
@@ -194,7 +209,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(RenderCase{"dejavu/DejaVuSans.ttf",
                                "Sphinx of black quartz, judge my vow 0123456789"},
                     RenderCase{"liberation/LiberationSerif-Bold.ttf",
-                               "Sphinx_of_black_quartz,judge_my_vow:0123456789"}));
+                               "Sphinx_of_black_quartz,judge_my_vow:0123456789"}),
+    [](const auto& info) { return testName(info.param.font); });
 
 } // namespace
 } // namespace orvan
