@@ -27,7 +27,8 @@ const PropertyValue* Features()
     return features && features->isDictionary() ? features : nullptr;
 }
 
-const PropertyValue* SubEntry(const PropertyValue* feature, const QString& dictionaryName, const QString& name)
+const PropertyValue* SubEntry(const PropertyValue* feature, const QString& dictionaryName,
+                              const QString& name)
 {
     if (!feature)
         return nullptr;
@@ -74,7 +75,8 @@ PropertyValue QDPGetFeaturesWithProperty(const QString& propertyName)
     return QDPGetFeaturesWithPropertyAndValue(propertyName, nullptr);
 }
 
-PropertyValue QDPGetFeaturesWithPropertyAndValue(const QString& propertyName, const PropertyValue* value)
+PropertyValue QDPGetFeaturesWithPropertyAndValue(const QString& propertyName,
+                                                 const PropertyValue* value)
 {
     PropertyValue found = PropertyValue::array();
     const PropertyValue* features = Features();
@@ -108,7 +110,8 @@ const PropertyValue* QDPGetFeatureKeyword(const PropertyValue* feature)
     return QDPGetFeatureSyntax(feature, QStringLiteral("Keyword"));
 }
 
-PropertyValue QDPGetKeywordsWithPropertyAndValue(const QString& propertyName, const PropertyValue* value)
+PropertyValue QDPGetKeywordsWithPropertyAndValue(const QString& propertyName,
+                                                 const PropertyValue* value)
 {
     PropertyValue keywords = PropertyValue::array();
     const PropertyValue features = QDPGetFeaturesWithPropertyAndValue(propertyName, value);

@@ -36,7 +36,8 @@ const PropertyValue* QDPGetFeature(const QString& featureName);
 // The feature dictionaries whose "Properties" hold the property (with that
 // value when one is given), in the order of the feature names.
 PropertyValue QDPGetFeaturesWithProperty(const QString& propertyName);
-PropertyValue QDPGetFeaturesWithPropertyAndValue(const QString& propertyName, const PropertyValue* value);
+PropertyValue QDPGetFeaturesWithPropertyAndValue(const QString& propertyName,
+                                                 const PropertyValue* value);
 // An entry of a feature's "Syntax" or "Properties" dictionary.
 const PropertyValue* QDPGetFeatureSyntax(const PropertyValue* feature, const QString& name);
 const PropertyValue* QDPGetFeatureProperty(const PropertyValue* feature, const QString& name);
@@ -46,6 +47,7 @@ const PropertyValue* QDPGetFeatureDefaultValue(const PropertyValue* feature);
 const PropertyValue* QDPGetFeatureKeyword(const PropertyValue* feature);
 // The Syntax "Keyword"s of the features that QDPGetFeaturesWithPropertyAndValue
 // finds (features without a keyword are left out).
-PropertyValue QDPGetKeywordsWithPropertyAndValue(const QString& propertyName, const PropertyValue* value);
+PropertyValue QDPGetKeywordsWithPropertyAndValue(const QString& propertyName,
+                                                 const PropertyValue* value);
 
 } // namespace orvan

@@ -18,7 +18,8 @@ constexpr _InstalledFeatureMap _InstalledFeatures[] = {
 
 namespace {
 
-struct InstalledOptions {
+struct InstalledOptions
+{
     std::optional<std::map<QString, QString>> choices;
     const _InstalledFeatureMap* table = nullptr;
 };
@@ -133,7 +134,8 @@ QString CopyDeviceMimicFilename()
             name += part->second;
     }
     QString finisher;
-    if (getInstallableOptionValue(QStringLiteral("Option4"), &finisher) && finisher == QLatin1StringView("True"))
+    if (getInstallableOptionValue(QStringLiteral("Option4"), &finisher) &&
+        finisher == QLatin1StringView("True"))
         name += QStringLiteral("_Finisher");
     return name + QStringLiteral(".gif");
 }

@@ -17,11 +17,12 @@ class Bundle;
 // recorded choice equals the required choice, or always when the row names
 // no option. Several rows may share a feature key; any of them suffices.
 // A table ends with a row whose feature key is null.
-struct _InstalledFeatureMap {
+struct _InstalledFeatureMap
+{
     const char* featureKey;
-    const char* optionKeyword;   // installable option, or null
+    const char* optionKeyword; // installable option, or null
     const char* requiredChoice;
-    const char* textKey;         // localisation key of the feature's name, or null
+    const char* textKey; // localisation key of the feature's name, or null
     std::int32_t ticketValue;
 };
 

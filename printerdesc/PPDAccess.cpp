@@ -41,7 +41,7 @@ TextEncoding DeliveredEncoding(ppd_file_t* ppd)
     if (!ppd)
         return TextEncoding::MacRoman;
     const QByteArray entry = PpdLanguageEncodingEntry(ppd);
-    static constexpr std::array kConvertedByLibcups = {"ISOLatin1", "ISOLatin2", "ISOLatin5",
+    static constexpr std::array kConvertedByLibcups = {"ISOLatin1",  "ISOLatin2",   "ISOLatin5",
                                                        "JIS83-RKSJ", "MacStandard", "WindowsANSI"};
     if (entry.isEmpty())
         return TextEncoding::UTF8;
@@ -152,8 +152,8 @@ const char* PPDChoiceForTicketValue(const QString& mainKeyword, std::int32_t val
     return nullptr;
 }
 
-bool PPDGetTicketValueForChoiceOrDefault(ppd_file_t* ppd, const Ticket* ticket, const QString& mainKeyword,
-                                         std::int32_t* value)
+bool PPDGetTicketValueForChoiceOrDefault(ppd_file_t* ppd, const Ticket* ticket,
+                                         const QString& mainKeyword, std::int32_t* value)
 {
     if (!value)
         return false;
@@ -166,11 +166,13 @@ bool PPDGetTicketValueForChoiceOrDefault(ppd_file_t* ppd, const Ticket* ticket, 
     return true;
 }
 
-std::optional<QString> PPDCopyChoiceText(ppd_file_t* ppd, const QString& mainKeyword, const QString& choice)
+std::optional<QString> PPDCopyChoiceText(ppd_file_t* ppd, const QString& mainKeyword,
+                                         const QString& choice)
 {
     if (!ppd || mainKeyword.isEmpty() || choice.isNull())
         return std::nullopt;
-    const auto text = PpdChoiceText(ppd, PPDEncodeString(ppd, mainKeyword), PPDEncodeString(ppd, choice));
+    const auto text =
+        PpdChoiceText(ppd, PPDEncodeString(ppd, mainKeyword), PPDEncodeString(ppd, choice));
     if (!text)
         return std::nullopt;
     return PPDDecodeString(ppd, *text);
@@ -237,7 +239,13 @@ QByteArray PPDEncodeString(ppd_file_t* ppd, const QString& text)
     return Encode(text, DeliveredEncoding(ppd));
 }
 
-void GetMediaLimits(double* minimumWidth, double* minimumHeight, double* maximumWidth, double* maximumHeight)
+bool PPDIsOrvanPrinter(ppd_file_t* ppd)
+{
+    return ppd && PpdManufacturer(ppd) == "Orvan";
+}
+
+void GetMediaLimits(double* minimumWidth, double* minimumHeight, double* maximumWidth,
+                    double* maximumHeight)
 {
     PpdCustomSizeLimits limits{432, 432, 864, 864};
     if (const auto custom = PpdCustomLimits(PPDGetCurrent()))

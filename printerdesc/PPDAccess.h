@@ -46,11 +46,12 @@ const char* PPDChoiceForTicketValue(const QString& mainKeyword, std::int32_t val
 // The ticket's current choice for the keyword, or when it has none the PPD's
 // default, translated by PPDTicketValueForChoice (possibly -1) into *value.
 // With neither, *value is left untouched and the result is false.
-bool PPDGetTicketValueForChoiceOrDefault(ppd_file_t* ppd, const Ticket* ticket, const QString& mainKeyword,
-                                         std::int32_t* value);
+bool PPDGetTicketValueForChoiceOrDefault(ppd_file_t* ppd, const Ticket* ticket,
+                                         const QString& mainKeyword, std::int32_t* value);
 // The human-readable text of the choice as the PPD gives it; nullopt when
 // anything is missing.
-std::optional<QString> PPDCopyChoiceText(ppd_file_t* ppd, const QString& mainKeyword, const QString& choice);
+std::optional<QString> PPDCopyChoiceText(ppd_file_t* ppd, const QString& mainKeyword,
+                                         const QString& choice);
 
 // Rebuilds the menu from the option's choices: each choice the keyword's
 // choice map knows becomes an item with the PPD's text, the command and the
@@ -75,8 +76,13 @@ QString PPDDecodeString(ppd_file_t* ppd, const QByteArray& bytes);
 // The reverse, for looking keywords up in the PPD.
 QByteArray PPDEncodeString(ppd_file_t* ppd, const QString& text);
 
+// True when the PPD's manufacturer is exactly "Orvan" ("Orvan Systems" is
+// not): only then are the device profile and installable options loaded.
+bool PPDIsOrvanPrinter(ppd_file_t* ppd);
+
 // The current PPD's custom page size limits in points (1/72 inch); 432, 432,
 // 864, 864 when no PPD is open or it offers no custom sizes.
-void GetMediaLimits(double* minimumWidth, double* minimumHeight, double* maximumWidth, double* maximumHeight);
+void GetMediaLimits(double* minimumWidth, double* minimumHeight, double* maximumWidth,
+                    double* maximumHeight);
 
 } // namespace orvan

@@ -25,7 +25,8 @@ PpdFilePtr OpenPPDFile(const QString& path, QString* error)
     if (!ppd && error) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        *error = QStringLiteral("line %1: %2").arg(line).arg(QString::fromUtf8(ppdErrorString(status)));
+        *error =
+            QStringLiteral("line %1: %2").arg(line).arg(QString::fromUtf8(ppdErrorString(status)));
     }
     return ppd;
 }
@@ -38,7 +39,8 @@ std::optional<std::vector<PpdChoice>> PpdOptionChoices(ppd_file_t* ppd, const QB
     std::vector<PpdChoice> choices;
     choices.reserve(static_cast<std::size_t>(option->num_choices));
     for (int i = 0; i < option->num_choices; ++i)
-        choices.push_back({QByteArray(option->choices[i].choice), QByteArray(option->choices[i].text)});
+        choices.push_back(
+            {QByteArray(option->choices[i].choice), QByteArray(option->choices[i].text)});
     return choices;
 }
 
@@ -50,7 +52,8 @@ std::optional<QByteArray> PpdDefaultChoice(ppd_file_t* ppd, const QByteArray& ke
     return QByteArray(option->defchoice);
 }
 
-std::optional<QByteArray> PpdChoiceText(ppd_file_t* ppd, const QByteArray& keyword, const QByteArray& choice)
+std::optional<QByteArray> PpdChoiceText(ppd_file_t* ppd, const QByteArray& keyword,
+                                        const QByteArray& choice)
 {
     ppd_option_t* option = ppd ? ppdFindOption(ppd, keyword.constData()) : nullptr;
     ppd_choice_t* found = option ? ppdFindChoice(option, choice.constData()) : nullptr;
@@ -80,8 +83,8 @@ std::optional<QByteArray> PpdMarkedChoice(ppd_file_t* ppd, const QByteArray& key
     return QByteArray(marked->choice);
 }
 
-std::optional<std::vector<std::pair<QByteArray, QByteArray>>> PpdMarkedChoicesInGroup(ppd_file_t* ppd,
-                                                                                     const QByteArray& group)
+std::optional<std::vector<std::pair<QByteArray, QByteArray>>>
+PpdMarkedChoicesInGroup(ppd_file_t* ppd, const QByteArray& group)
 {
     if (!ppd)
         return std::nullopt;
@@ -94,7 +97,8 @@ std::optional<std::vector<std::pair<QByteArray, QByteArray>>> PpdMarkedChoicesIn
             const ppd_option_t& option = candidate.options[o];
             for (int c = 0; c < option.num_choices; ++c) {
                 if (option.choices[c].marked) {
-                    marked.emplace_back(QByteArray(option.keyword), QByteArray(option.choices[c].choice));
+                    marked.emplace_back(QByteArray(option.keyword),
+                                        QByteArray(option.choices[c].choice));
                     break;
                 }
             }
@@ -119,7 +123,8 @@ std::optional<PpdCustomSizeLimits> PpdCustomLimits(ppd_file_t* ppd)
 {
     if (!ppd || !ppd->variable_sizes)
         return std::nullopt;
-    return PpdCustomSizeLimits{ppd->custom_min[0], ppd->custom_min[1], ppd->custom_max[0], ppd->custom_max[1]};
+    return PpdCustomSizeLimits{ppd->custom_min[0], ppd->custom_min[1], ppd->custom_max[0],
+                               ppd->custom_max[1]};
 }
 
 } // namespace orvan

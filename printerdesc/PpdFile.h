@@ -17,7 +17,8 @@ typedef struct ppd_file_s ppd_file_t;
 
 namespace orvan {
 
-struct PpdFileCloser {
+struct PpdFileCloser
+{
     void operator()(ppd_file_t* ppd) const;
 };
 using PpdFilePtr = std::unique_ptr<ppd_file_t, PpdFileCloser>;
@@ -26,7 +27,8 @@ using PpdFilePtr = std::unique_ptr<ppd_file_t, PpdFileCloser>;
 // On failure the reason (line and message) goes to *error when given.
 PpdFilePtr OpenPPDFile(const QString& path, QString* error = nullptr);
 
-struct PpdChoice {
+struct PpdChoice
+{
     QByteArray keyword;
     QByteArray text;
 };
@@ -36,7 +38,8 @@ std::optional<std::vector<PpdChoice>> PpdOptionChoices(ppd_file_t* ppd, const QB
 // The option's default choice keyword; nullopt when the option is absent.
 std::optional<QByteArray> PpdDefaultChoice(ppd_file_t* ppd, const QByteArray& keyword);
 // The human-readable text of a choice; nullopt when option or choice is absent.
-std::optional<QByteArray> PpdChoiceText(ppd_file_t* ppd, const QByteArray& keyword, const QByteArray& choice);
+std::optional<QByteArray> PpdChoiceText(ppd_file_t* ppd, const QByteArray& keyword,
+                                        const QByteArray& choice);
 
 // Marks: every option starts at its default after PpdMarkDefaults; marking a
 // choice answers the number of constraint conflicts the PPD then has.
@@ -48,8 +51,8 @@ std::optional<QByteArray> PpdMarkedChoice(ppd_file_t* ppd, const QByteArray& key
 
 // The options of the group with exactly that name, each with its first
 // marked choice (options without one are left out); nullopt without the group.
-std::optional<std::vector<std::pair<QByteArray, QByteArray>>> PpdMarkedChoicesInGroup(ppd_file_t* ppd,
-                                                                                     const QByteArray& group);
+std::optional<std::vector<std::pair<QByteArray, QByteArray>>>
+PpdMarkedChoicesInGroup(ppd_file_t* ppd, const QByteArray& group);
 
 // The "*LanguageEncoding" entry as written in the file; empty when absent.
 // (libcups replaces the parsed encoding field by "UTF-8" once it has
@@ -58,7 +61,8 @@ QByteArray PpdLanguageEncodingEntry(ppd_file_t* ppd);
 QByteArray PpdManufacturer(ppd_file_t* ppd);
 
 // Custom page size limits in points; nullopt when the PPD has no custom sizes.
-struct PpdCustomSizeLimits {
+struct PpdCustomSizeLimits
+{
     double minimumWidth;
     double minimumHeight;
     double maximumWidth;

@@ -13,7 +13,8 @@
 
 namespace orvan {
 
-struct MenuItem {
+struct MenuItem
+{
     QString text;
     std::uint32_t commandId = 0;
     std::int32_t referenceValue = 0;

@@ -16,7 +16,8 @@ bool GateIsOpen(const _SettingMap& row)
 }
 
 // The row where a search by value stops and the item number it gives, or -1.
-struct ScanResult {
+struct ScanResult
+{
     const _SettingMap* row;
     int item;
 };
@@ -91,8 +92,9 @@ std::uint16_t PopulateMenuFromMap(const Bundle* bundle, MenuModel& menu, const _
             item.text = QStringLiteral("-");
         } else {
             const QString textKey = MenuTextKeyForRow(*row, jobContext);
-            item.text = bundle ? bundle->localizedString(textKey, kStringNotFound, kDefaultStringTable)
-                               : kStringNotFound;
+            item.text = bundle
+                            ? bundle->localizedString(textKey, kStringNotFound, kDefaultStringTable)
+                            : kStringNotFound;
         }
         item.commandId = commandOverride != 0 ? commandOverride : row->commandId;
         item.referenceValue = row->ticketValue;
@@ -101,15 +103,17 @@ std::uint16_t PopulateMenuFromMap(const Bundle* bundle, MenuModel& menu, const _
     return visited;
 }
 
-std::uint16_t PopulatePopupMenuFromMap(const Bundle* bundle, MenuModel& menu, const _SettingMap* map,
-                                       int jobContext, std::uint32_t commandOverride)
+std::uint16_t PopulatePopupMenuFromMap(const Bundle* bundle, MenuModel& menu,
+                                       const _SettingMap* map, int jobContext,
+                                       std::uint32_t commandOverride)
 {
     menu.clear();
     return PopulateMenuFromMap(bundle, menu, map, jobContext, commandOverride);
 }
 
-std::uint16_t InsertHistoryIntoMenu(MenuModel& menu, const PropertyValue& history, int firstPosition,
-                                    std::uint32_t historyCommand, std::uint16_t count)
+std::uint16_t InsertHistoryIntoMenu(MenuModel& menu, const PropertyValue& history,
+                                    int firstPosition, std::uint32_t historyCommand,
+                                    std::uint16_t count)
 {
     int position = firstPosition;
     for (const PropertyValue& element : history.asArray()) {
@@ -135,12 +139,16 @@ PropertyValue CopyInputHistory(const QString& historyKey)
     return *history;
 }
 
-std::uint16_t PopulatePopupMenuFromMapAndHistory(const Bundle* bundle, MenuModel& menu, const _SettingMap* map,
-                                                 int jobContext, const QString& historyKey, int firstPosition,
-                                                 std::uint32_t historyCommand, std::uint32_t commandOverride)
+std::uint16_t PopulatePopupMenuFromMapAndHistory(const Bundle* bundle, MenuModel& menu,
+                                                 const _SettingMap* map, int jobContext,
+                                                 const QString& historyKey, int firstPosition,
+                                                 std::uint32_t historyCommand,
+                                                 std::uint32_t commandOverride)
 {
-    const std::uint16_t count = PopulatePopupMenuFromMap(bundle, menu, map, jobContext, commandOverride);
-    return InsertHistoryIntoMenu(menu, CopyInputHistory(historyKey), firstPosition, historyCommand, count);
+    const std::uint16_t count =
+        PopulatePopupMenuFromMap(bundle, menu, map, jobContext, commandOverride);
+    return InsertHistoryIntoMenu(menu, CopyInputHistory(historyKey), firstPosition, historyCommand,
+                                 count);
 }
 
 } // namespace orvan

@@ -52,15 +52,17 @@ std::uint16_t PopulateMenuFromMap(const Bundle* bundle, MenuModel& menu, const _
 
 // Empties the menu, then PopulateMenuFromMap: what a pop-up shows; the result
 // is the pop-up's maximum.
-std::uint16_t PopulatePopupMenuFromMap(const Bundle* bundle, MenuModel& menu, const _SettingMap* map,
-                                       int jobContext, std::uint32_t commandOverride);
+std::uint16_t PopulatePopupMenuFromMap(const Bundle* bundle, MenuModel& menu,
+                                       const _SettingMap* map, int jobContext,
+                                       std::uint32_t commandOverride);
 
 // Inserts the history entries into the menu: each string element goes after
 // item p, where p starts at firstPosition and grows by one for every element,
 // null (and non-string) elements included. Returns count plus the number of
 // elements inserted. A history that is not an array inserts nothing.
-std::uint16_t InsertHistoryIntoMenu(MenuModel& menu, const PropertyValue& history, int firstPosition,
-                                    std::uint32_t historyCommand, std::uint16_t count);
+std::uint16_t InsertHistoryIntoMenu(MenuModel& menu, const PropertyValue& history,
+                                    int firstPosition, std::uint32_t historyCommand,
+                                    std::uint16_t count);
 
 // The array under the key in the user's input-history file; an empty array
 // when the file, the key or the array is missing.
@@ -68,8 +70,10 @@ PropertyValue CopyInputHistory(const QString& historyKey);
 
 // PopulatePopupMenuFromMap, then the history under the key inserted from
 // firstPosition on. Returns the pop-up's new maximum.
-std::uint16_t PopulatePopupMenuFromMapAndHistory(const Bundle* bundle, MenuModel& menu, const _SettingMap* map,
-                                                 int jobContext, const QString& historyKey, int firstPosition,
-                                                 std::uint32_t historyCommand, std::uint32_t commandOverride);
+std::uint16_t PopulatePopupMenuFromMapAndHistory(const Bundle* bundle, MenuModel& menu,
+                                                 const _SettingMap* map, int jobContext,
+                                                 const QString& historyKey, int firstPosition,
+                                                 std::uint32_t historyCommand,
+                                                 std::uint32_t commandOverride);
 
 } // namespace orvan

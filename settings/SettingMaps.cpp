@@ -29,6 +29,9 @@ constexpr std::int32_t kUseLoginName = Code("JnUL");
 
 } // namespace
 
+// The tables keep one row a line, in menu order.
+// clang-format off
+
 // --- Advanced panel -------------------------------------------------------
 
 constexpr _SettingMap _BookletLayoutOrderMap[] = {
@@ -333,7 +336,8 @@ constexpr PPDChoiceMap _QVPunchMap[] = {
 };
 
 constexpr PPDChoiceMap _QVStapleMap[] = {
-    {"None", 1}, {"SinglePortrait", 5}, {"DualLandscape", 10}, {"MultipleStaples", 54}, kEndOfChoices,
+    {"None", 1}, {"SinglePortrait", 5}, {"DualLandscape", 10}, {"MultipleStaples", 54},
+    kEndOfChoices,
 };
 
 constexpr PPDChoiceMap _DraftModeMap[] = {{"None", 2}, {"Draft", 1}, kEndOfChoices};
@@ -541,5 +545,7 @@ constexpr MainKeywordMap _MainKeywordMap[] = {
     {"QVSlipSheetType", ppdmaps::_MediaTypeMap},
     {nullptr, nullptr},
 };
+
+// clang-format on
 
 } // namespace orvan

@@ -25,7 +25,8 @@ extern const _SettingMap _OutputOptionsMap[];
 // Watermarks and background forms. Negative values are actions that open a
 // dialog; separators carry values that are never written.
 extern const _SettingMap _WatermarkMap[];
-extern const _SettingMap _WatermarkOptionsMap[]; // "WatermarmPrintOnPage1Only" is spelt so on purpose
+extern const _SettingMap
+    _WatermarkOptionsMap[]; // "WatermarmPrintOnPage1Only" is spelt so on purpose
 extern const _SettingMap _EnabledDisabledMap[];
 extern const _SettingMap _PageBordersMap[];
 extern const _SettingMap _BookletWatermarkBackgroundFormsMap[];
@@ -88,10 +89,10 @@ extern const PPDChoiceMap _ColorModeMap[];
 extern const PPDChoiceMap _FeedEdgeMap[];
 extern const PPDChoiceMap _InputSlotMap[];
 extern const PPDChoiceMap _SlipSheetMap[];
-extern const PPDChoiceMap _OutputBinMap[];   // three rows share 5: "Upper" wins
+extern const PPDChoiceMap _OutputBinMap[]; // three rows share 5: "Upper" wins
 extern const PPDChoiceMap _MediaColorMap[];
-extern const PPDChoiceMap _MediaTypeMap[];   // "CardStock" twice (12, then 43)
-extern const PPDChoiceMap _PageSizeMap[];    // "3x5" twice (both 80)
+extern const PPDChoiceMap _MediaTypeMap[]; // "CardStock" twice (12, then 43)
+extern const PPDChoiceMap _PageSizeMap[];  // "3x5" twice (both 80)
 
 } // namespace ppdmaps
 

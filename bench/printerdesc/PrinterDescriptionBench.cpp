@@ -12,7 +12,8 @@
 namespace orvan {
 namespace {
 
-const QString kSamplePpd = QStringLiteral(ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd");
+const QString kSamplePpd =
+    QStringLiteral(ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd");
 
 void BM_OpenSamplePpd(benchmark::State& state)
 {
@@ -38,7 +39,8 @@ void PopulateFromPpd(benchmark::State& state, const QString& keyword, bool check
     PpdFilePtr ppd = OpenPPDFile(kSamplePpd);
     MenuModel menu;
     for (auto _ : state)
-        benchmark::DoNotOptimize(PPDPopulateMenuWithChoices(&menu, ppd.get(), keyword, 0, checkConstraints));
+        benchmark::DoNotOptimize(
+            PPDPopulateMenuWithChoices(&menu, ppd.get(), keyword, 0, checkConstraints));
     state.counters["items"] = menu.count();
 }
 

@@ -19,7 +19,8 @@ using testing::WriteSampleVariant;
 QString OptionValue(const char* option)
 {
     QString choice;
-    return getInstallableOptionValue(QString::fromUtf8(option), &choice) ? choice : QStringLiteral("<none>");
+    return getInstallableOptionValue(QString::fromUtf8(option), &choice) ? choice
+                                                                         : QStringLiteral("<none>");
 }
 
 TEST(InstallableOptions, SamplePrinterDefaultsShowEveryFeature)
@@ -32,7 +33,8 @@ TEST(InstallableOptions, SamplePrinterDefaultsShowEveryFeature)
     EXPECT_EQ(OptionValue("Option5"), QStringLiteral("True"));
     EXPECT_EQ(OptionValue("Option8"), QStringLiteral("True"));
     EXPECT_EQ(OptionValue("Option9"), QStringLiteral("True"));
-    EXPECT_EQ(OptionValue("PageSize"), QStringLiteral("<none>")) << "only the InstallableOptions group";
+    EXPECT_EQ(OptionValue("PageSize"), QStringLiteral("<none>"))
+        << "only the InstallableOptions group";
     for (const char* feature : {"SingleStapleKey", "JobStorage", "FaxKey", "PostPrintInserterKey"})
         EXPECT_EQ(getInstalledFeature(feature), 1) << feature;
     EXPECT_EQ(getInstalledFeature("DualStapleKey"), 0) << "not in the table";
@@ -81,11 +83,14 @@ TEST(InstallableOptions, FeatureValuesAndNames)
     EXPECT_FALSE(getInstallableOptionTicketValue("NoSuchFeature", &value));
     EXPECT_EQ(value, -1);
 
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", &bundle), QStringLiteral("1 Staple"));
+    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", &bundle),
+              QStringLiteral("1 Staple"));
     EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", &bundle),
               QStringLiteral("Post-Print Inserter"));
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("JobStorage", &bundle), std::nullopt) << "no text key";
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", nullptr), std::nullopt);
+    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("JobStorage", &bundle), std::nullopt)
+        << "no text key";
+    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", nullptr),
+              std::nullopt);
 }
 
 TEST(InstallableOptions, AbsentFeatureHasNoValueOrName)
@@ -96,7 +101,8 @@ TEST(InstallableOptions, AbsentFeatureHasNoValueOrName)
     long value = -1;
     EXPECT_EQ(getInstalledFeature("SingleStapleKey"), 0);
     EXPECT_FALSE(getInstallableOptionTicketValue("SingleStapleKey", &value));
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", &bundle), std::nullopt);
+    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", &bundle),
+              std::nullopt);
 }
 
 TEST(InstallableOptions, RowsWithoutAnOptionAlwaysHold)
@@ -119,7 +125,8 @@ TEST(InstallableOptions, RowsWithoutAnOptionAlwaysHold)
 
 TEST(DeviceMimic, PictureNameFollowsTraysAndFinisher)
 {
-    struct Case {
+    struct Case
+    {
         const char* trays;
         const char* finisher;
         const char* picture;
@@ -132,7 +139,8 @@ TEST(DeviceMimic, PictureNameFollowsTraysAndFinisher)
     };
     QTemporaryDir folder;
     for (const Case& c : cases) {
-        InstalledOptionsGuard options(WriteSampleVariant(folder, {{"Option1", c.trays}, {"Option4", c.finisher}}));
+        InstalledOptionsGuard options(
+            WriteSampleVariant(folder, {{"Option1", c.trays}, {"Option4", c.finisher}}));
         EXPECT_EQ(CopyDeviceMimicFilename(), QString::fromUtf8(c.picture));
     }
     InstalledOptionsGuard nothingLoaded;
@@ -171,10 +179,14 @@ TEST_F(DeviceProfileTest, FeaturesAndKeywordsByProperty)
     ASSERT_TRUE(QDPInitialize(&m_bundle));
     EXPECT_EQ(QDPGetFeaturesWithProperty(QStringLiteral("InstallableOption")).size(), 7u);
     const PropertyValue finisher = PropertyValue(QStringLiteral("Option4"));
-    EXPECT_EQ(QDPGetFeaturesWithPropertyAndValue(QStringLiteral("InstallableOption"), &finisher).size(), 3u);
-    const PropertyValue keywords = QDPGetKeywordsWithPropertyAndValue(QStringLiteral("InstallableOption"), &finisher);
+    EXPECT_EQ(
+        QDPGetFeaturesWithPropertyAndValue(QStringLiteral("InstallableOption"), &finisher).size(),
+        3u);
+    const PropertyValue keywords =
+        QDPGetKeywordsWithPropertyAndValue(QStringLiteral("InstallableOption"), &finisher);
     PropertyValue expected = PropertyValue::array();
-    for (const char* keyword : {"QVFold", "QVPunch", "StapleLocation"}) // by feature name: Folding, HolePunch, Stapling
+    for (const char* keyword :
+         {"QVFold", "QVPunch", "StapleLocation"}) // by feature name: Folding, HolePunch, Stapling
         expected.append(QString::fromUtf8(keyword));
     EXPECT_EQ(keywords, expected);
     EXPECT_EQ(QDPGetFeaturesWithProperty(QStringLiteral("NoSuchProperty")).size(), 0u);
@@ -191,7 +203,8 @@ TEST_F(DeviceProfileTest, DefaultsAgreeWithTheSamplePrinter)
         const auto ppdDefault = PPDCopyDefaultChoice(ppd.get(), keyword);
         if (!ppdDefault)
             continue; // carried by the ticket, not the PPD
-        EXPECT_EQ(QDPGetFeatureDefaultValue(&feature)->toString(), *ppdDefault) << qPrintable(keyword);
+        EXPECT_EQ(QDPGetFeatureDefaultValue(&feature)->toString(), *ppdDefault)
+            << qPrintable(keyword);
     }
 }
 

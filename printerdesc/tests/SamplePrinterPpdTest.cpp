@@ -56,7 +56,8 @@ TEST(SamplePrinterPpd, DefaultsAreConflictFreeAndFinishingNeedsTheFinisher)
     PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
     PpdMarkDefaults(ppd.get());
     EXPECT_EQ(PpdMarkOption(ppd.get(), "StapleLocation", "DualLandscape"), 0);
-    EXPECT_GT(PpdMarkOption(ppd.get(), "Option4", "False"), 0) << "the staples now lack their finisher";
+    EXPECT_GT(PpdMarkOption(ppd.get(), "Option4", "False"), 0)
+        << "the staples now lack their finisher";
     EXPECT_EQ(PpdMarkOption(ppd.get(), "StapleLocation", "None"), 0);
     for (const char* choice : {"HolePunch", "2HolePunch", "3HolePunch", "4HolePunch"})
         EXPECT_GT(PpdMarkOption(ppd.get(), "QVPunch", choice), 0) << choice;
@@ -73,7 +74,8 @@ TEST(SamplePrinterPpd, InstallableOptionsGroup)
     const auto marked = PpdMarkedChoicesInGroup(ppd.get(), "InstallableOptions");
     ASSERT_TRUE(marked);
     const std::vector<std::pair<QByteArray, QByteArray>> expected = {
-        {"Option1", "Tray3HiCap"}, {"Option4", "True"}, {"Option5", "True"}, {"Option8", "True"}, {"Option9", "True"},
+        {"Option1", "Tray3HiCap"}, {"Option4", "True"}, {"Option5", "True"},
+        {"Option8", "True"},       {"Option9", "True"},
     };
     EXPECT_EQ(*marked, expected);
     const auto trays = PpdOptionChoices(ppd.get(), "Option1");

@@ -18,7 +18,8 @@ using testing::InstalledOptionsGuard;
 using testing::SamplePpdPath;
 using testing::WriteSampleVariant;
 
-struct NamedMap {
+struct NamedMap
+{
     const char* name;
     const _SettingMap* map;
     int rows;
@@ -101,7 +102,8 @@ TEST(SettingMapLookup, UIToTicketIgnoresGates)
 TEST(SettingMapLookup, TicketToUIFollowsTheScanRules)
 {
     InstalledOptionsGuard nothingInstalled;
-    struct Case {
+    struct Case
+    {
         const char* what;
         const _SettingMap* map;
         std::int32_t value;
@@ -116,9 +118,10 @@ TEST(SettingMapLookup, TicketToUIFollowsTheScanRules)
         {"first row 0 answers any value", _OutputOptionsMap, 1, 1, "Face Down"},
         {"first row 0, value absent", _OutputOptionsMap, 77, 1, "Face Down"},
         {"both rows 0", _SavedJobSaveOptionRadioMap, 0, 1, "Save"},
-        {"same value in every row: first wins", _OPIPrescanMap, static_cast<std::int32_t>(FourCharCode("Qujn")), 1,
-         "PrinterDefault"},
-        {"duplicate keys, distinct maps", _CoverSidesDuplexImagedMap, 1, 2, "CoverBlankorPreprinted"},
+        {"same value in every row: first wins", _OPIPrescanMap,
+         static_cast<std::int32_t>(FourCharCode("Qujn")), 1, "PrinterDefault"},
+        {"duplicate keys, distinct maps", _CoverSidesDuplexImagedMap, 1, 2,
+         "CoverBlankorPreprinted"},
         {"action rows are negative", _CoverSheetImageMap, -8, 5, "Edit..."},
     };
     for (const Case& c : cases) {
@@ -158,7 +161,8 @@ TEST(SettingMapLookup, GatedJobTypesFollowTheInstalledOptions)
         InstalledOptionsGuard noStorage(WriteSampleVariant(folder, {{"Option8", "False"}}));
         EXPECT_EQ(TicketToUI(_JobTypeMap, 3), -1) << "the terminator follows the gated rows";
         EXPECT_EQ(LocalizedKeyForTicketValue(_JobTypeMap, 3), nullptr);
-        EXPECT_EQ(TicketToUI(_JobTypeMap, 5), 6) << "a closed gate before it does not hide the fax row";
+        EXPECT_EQ(TicketToUI(_JobTypeMap, 5), 6)
+            << "a closed gate before it does not hide the fax row";
     }
     {
         InstalledOptionsGuard nothingLoaded;
@@ -178,7 +182,8 @@ TEST(SettingMapLookup, LaterRowWithSameValueMatchesWhenGateIsClosed)
     {
         InstalledOptionsGuard nothingLoaded;
         EXPECT_EQ(TicketToUI(map, 3), 2);
-        EXPECT_EQ(TicketToUI(map, 4), 3) << "a row requiring state 0 shows when the feature is absent";
+        EXPECT_EQ(TicketToUI(map, 4), 3)
+            << "a row requiring state 0 shows when the feature is absent";
     }
     InstalledOptionsGuard installed(SamplePpdPath());
     EXPECT_EQ(TicketToUI(map, 3), 1);
@@ -196,7 +201,8 @@ TEST_F(MapMenuTest, GatedRowsAreVisitedButLeftOut)
     QTemporaryDir folder;
     MenuModel menu;
     {
-        InstalledOptionsGuard neither(WriteSampleVariant(folder, {{"Option8", "False"}, {"Option5", "False"}}));
+        InstalledOptionsGuard neither(
+            WriteSampleVariant(folder, {{"Option8", "False"}, {"Option5", "False"}}));
         EXPECT_EQ(PopulateMenuFromMap(&m_bundle, menu, _JobTypeMap, 0, 0), 6);
         ASSERT_EQ(menu.count(), 4);
         EXPECT_EQ(menu.item(4)->referenceValue, 7);
@@ -324,14 +330,17 @@ TEST(MapMenuHistory, ReadsTheUsersInputHistoryFile)
     Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en"));
     MenuModel menu;
     menu.append(MenuItem{QStringLiteral("stale"), 0, 0, false});
-    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0, QStringLiteral("JobName"), 1, 0, 0),
+    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0,
+                                                 QStringLiteral("JobName"), 1, 0, 0),
               3);
     ASSERT_EQ(menu.count(), 3);
     EXPECT_EQ(menu.item(1)->text, QStringLiteral("Use Job Name"));
     EXPECT_EQ(menu.item(2)->text, QStringLiteral("Quarterly report"));
     EXPECT_EQ(menu.item(3)->text, QStringLiteral("Minutes"));
 
-    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0, QStringLiteral("Absent"), 1, 0, 0), 1);
+    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0,
+                                                 QStringLiteral("Absent"), 1, 0, 0),
+              1);
     qunsetenv("XDG_CONFIG_HOME");
 }
 
