@@ -21,7 +21,8 @@ AlertPresenter InstallMessageBoxAlertPresenter(QWidget* parent)
 {
     QPointer<QWidget> owner(parent);
     return SetAlertPresenter([owner](const Alert& alert) {
-        QMessageBox box(AlertIcon(alert.level), alert.title, alert.message, QMessageBox::Ok, owner.data());
+        QMessageBox box(AlertIcon(alert.level), alert.title, alert.message, QMessageBox::Ok,
+                        owner.data());
         box.setObjectName(QStringLiteral("Alert"));
         // The title also goes in the box's text: several desktops show no
         // title bar on modal message boxes.

@@ -31,9 +31,8 @@ CustomValueDialog::CustomValueDialog(const Bundle* bundle, int firstLimit, int s
         m_field->setText(value);
     m_field->selectAll();
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
-                                             QDialogButtonBox::Help,
-                                         this);
+    auto* buttons = new QDialogButtonBox(
+        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
     buttons->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("HelpButton"));
@@ -55,12 +54,12 @@ QString CustomValueDialog::value() const
 void CustomValueDialog::showHelp()
 {
     if (const Status status = DisplayHelp(m_bundle, kCustomValueHelpPage, {}); status != kNoError)
-        std::fprintf(stderr, "DEBUG: DisplayHelp(%s) failed (%d)\n", qPrintable(kCustomValueHelpPage),
-                     static_cast<int>(status));
+        std::fprintf(stderr, "DEBUG: DisplayHelp(%s) failed (%d)\n",
+                     qPrintable(kCustomValueHelpPage), static_cast<int>(status));
 }
 
-Status RunModalCustomValueDialog(const Bundle* bundle, int firstLimit, int secondLimit, QString& value,
-                                 int& result, QWidget* parent)
+Status RunModalCustomValueDialog(const Bundle* bundle, int firstLimit, int secondLimit,
+                                 QString& value, int& result, QWidget* parent)
 {
     CustomValueDialog dialog(bundle, firstLimit, secondLimit, value, parent);
     if (dialog.exec() == QDialog::Accepted) {

@@ -46,7 +46,7 @@ private:
 // is not null. OK: result kCustomValueOK and value set to the field's text.
 // Cancel: result kCustomValueCancel and value set to a null string. Help
 // opens the dialog's help page and leaves the dialog open. Returns kNoError.
-Status RunModalCustomValueDialog(const Bundle* bundle, int firstLimit, int secondLimit, QString& value,
-                                 int& result, QWidget* parent = nullptr);
+Status RunModalCustomValueDialog(const Bundle* bundle, int firstLimit, int secondLimit,
+                                 QString& value, int& result, QWidget* parent = nullptr);
 
 } // namespace orvan

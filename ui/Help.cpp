@@ -64,12 +64,15 @@ Status HelpUrl(const Bundle* bundle, const QString& page, const QString& anchor,
 {
     if (!bundle || !url)
         return kBadParameter;
-    const PropertyValue* bookName = bundle->infoDictionary().find(QStringLiteral("CFBundleHelpBookName"));
+    const PropertyValue* bookName =
+        bundle->infoDictionary().find(QStringLiteral("CFBundleHelpBookName"));
     if (!bookName || !bookName->isString())
         return kBadParameter;
-    const PropertyValue* folder = bundle->infoDictionary().find(QStringLiteral("CFBundleHelpBookFolder"));
-    const QString book = bundle->resourcesPath() + QLatin1Char('/') +
-                         (folder && folder->isString() ? folder->toString() : QStringLiteral("help"));
+    const PropertyValue* folder =
+        bundle->infoDictionary().find(QStringLiteral("CFBundleHelpBookFolder"));
+    const QString book =
+        bundle->resourcesPath() + QLatin1Char('/') +
+        (folder && folder->isString() ? folder->toString() : QStringLiteral("help"));
     if (!QFileInfo(book).isDir())
         return kHelpPageNotFound;
 

@@ -27,7 +27,8 @@ namespace {
 
 InputLimitValidator* installedValidator(const QLineEdit* field)
 {
-    return field ? qobject_cast<InputLimitValidator*>(const_cast<QValidator*>(field->validator())) : nullptr;
+    return field ? qobject_cast<InputLimitValidator*>(const_cast<QValidator*>(field->validator()))
+                 : nullptr;
 }
 
 } // namespace

@@ -40,8 +40,9 @@ QString InputLimits::applied(const QString& text, int& cursor) const
             const bool pair = text.at(position).isHighSurrogate() && position + 1 < text.size() &&
                               text.at(position + 1).isLowSurrogate();
             const int width = pair ? 2 : 1;
-            const char32_t c = pair ? QChar::surrogateToUcs4(text.at(position), text.at(position + 1))
-                                    : text.at(position).unicode();
+            const char32_t c =
+                pair ? QChar::surrogateToUcs4(text.at(position), text.at(position + 1))
+                     : text.at(position).unicode();
             if (allowed->contains(c))
                 result.append(QStringView(text).mid(position, width));
             else if (position < cursor)

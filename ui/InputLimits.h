@@ -22,7 +22,8 @@ bool ContainsOnly(const QString& text, const CharacterSet& set);
 // A field's limits. The first limit is the shortest entry that counts as
 // complete, the second the longest the field takes; a limit below 1 means
 // no limit. Lengths count UTF-16 units, as the line edit does.
-struct InputLimits {
+struct InputLimits
+{
     int firstLimit = 0;
     int secondLimit = 0;
     std::optional<CharacterSet> allowed; // nullopt: any character

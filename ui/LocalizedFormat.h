@@ -18,6 +18,7 @@ QString FormatText(const QString& format, const QStringList& arguments);
 // The text of key in the bundle's "Localizable" table (the key itself when
 // the table has no text for it, or when there is no bundle), formatted with
 // the arguments.
-QString LocalizedFormat(const Bundle* bundle, const QString& key, const QStringList& arguments = {});
+QString LocalizedFormat(const Bundle* bundle, const QString& key,
+                        const QStringList& arguments = {});
 
 } // namespace orvan

@@ -106,37 +106,42 @@ MenuActionData MenuActionDataOf(const QAction* action)
     return action->data().value<MenuActionData>();
 }
 
-std::uint16_t PopulateMenuFromMap(const Bundle* bundle, QMenu* menu, const _SettingMap* map, int jobContext,
-                                  std::uint32_t commandOverride)
+std::uint16_t PopulateMenuFromMap(const Bundle* bundle, QMenu* menu, const _SettingMap* map,
+                                  int jobContext, std::uint32_t commandOverride)
 {
     MenuModel model;
-    const std::uint16_t visited = PopulateMenuFromMap(bundle, model, map, jobContext, commandOverride);
+    const std::uint16_t visited =
+        PopulateMenuFromMap(bundle, model, map, jobContext, commandOverride);
     AppendMenuModel(menu, model);
     return visited;
 }
 
-std::uint16_t PopulatePopupButtonFromMap(const Bundle* bundle, QComboBox* popup, const _SettingMap* map,
-                                         int jobContext, std::uint32_t commandOverride)
+std::uint16_t PopulatePopupButtonFromMap(const Bundle* bundle, QComboBox* popup,
+                                         const _SettingMap* map, int jobContext,
+                                         std::uint32_t commandOverride)
 {
     if (!popup)
         return 0;
     MenuModel model;
-    const std::uint16_t maximum = PopulatePopupMenuFromMap(bundle, model, map, jobContext, commandOverride);
+    const std::uint16_t maximum =
+        PopulatePopupMenuFromMap(bundle, model, map, jobContext, commandOverride);
     FillPopupButton(popup, model, maximum);
     return maximum;
 }
 
 std::uint16_t PopulatePopupButtonFromMapAndHistory(const Bundle* bundle, QComboBox* popup,
                                                    const _SettingMap* map, int jobContext,
-                                                   const QString& historyKey, int firstHistoryPosition,
+                                                   const QString& historyKey,
+                                                   int firstHistoryPosition,
                                                    std::uint32_t historyCommand,
                                                    std::uint32_t commandOverride)
 {
     if (!popup)
         return 0;
     MenuModel model;
-    const std::uint16_t maximum = PopulatePopupMenuFromMapAndHistory(
-        bundle, model, map, jobContext, historyKey, firstHistoryPosition, historyCommand, commandOverride);
+    const std::uint16_t maximum =
+        PopulatePopupMenuFromMapAndHistory(bundle, model, map, jobContext, historyKey,
+                                           firstHistoryPosition, historyCommand, commandOverride);
     FillPopupButton(popup, model, maximum);
     return maximum;
 }

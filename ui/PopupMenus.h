@@ -10,8 +10,8 @@
 #include "settings/SettingMap.h"
 
 #include <QMetaType>
-#include <QtCore/qnamespace.h>
 #include <QString>
+#include <QtCore/qnamespace.h>
 
 #include <cstdint>
 
@@ -25,13 +25,15 @@ namespace orvan {
 class Bundle;
 
 // Item data roles of a pop-up button's items.
-enum MenuItemRole : int {
+enum MenuItemRole : int
+{
     TicketValueRole = Qt::UserRole + 1, // int: the item's ticket (reference) value
     CommandRole,                        // uint: the item's command, 0 for none
 };
 
 // What a menu action carries in QAction::data().
-struct MenuActionData {
+struct MenuActionData
+{
     std::int32_t ticketValue = 0;
     std::uint32_t commandId = 0;
 };
@@ -39,7 +41,8 @@ struct MenuActionData {
 // --- Mirrors of a menu model -------------------------------------------------
 
 // Replaces the pop-up's items by the model's, in order; the pop-up's map
-// becomes the model's source map and its maximum the given count.
+// becomes the model's source map and its maximum the given count. Emits no
+// signals: filling is not a choice.
 void FillPopupButton(QComboBox* popup, const MenuModel& model, int maximum);
 
 // Appends the model's items to the menu as actions (separators for separator
@@ -63,13 +66,14 @@ MenuActionData MenuActionDataOf(const QAction* action);
 
 // Appends the map's items to the menu (see the MenuModel overload in
 // settings/SettingMapAccess.h) and returns the rows visited.
-std::uint16_t PopulateMenuFromMap(const Bundle* bundle, QMenu* menu, const _SettingMap* map, int jobContext,
-                                  std::uint32_t commandOverride);
+std::uint16_t PopulateMenuFromMap(const Bundle* bundle, QMenu* menu, const _SettingMap* map,
+                                  int jobContext, std::uint32_t commandOverride);
 
 // Deletes the pop-up's items, fills it from the map and sets its maximum to
 // the rows visited, which it returns. Nothing happens for a null pop-up.
-std::uint16_t PopulatePopupButtonFromMap(const Bundle* bundle, QComboBox* popup, const _SettingMap* map,
-                                         int jobContext, std::uint32_t commandOverride);
+std::uint16_t PopulatePopupButtonFromMap(const Bundle* bundle, QComboBox* popup,
+                                         const _SettingMap* map, int jobContext,
+                                         std::uint32_t commandOverride);
 
 // As PopulatePopupButtonFromMap, then the strings of the history under the
 // key in the user's input-history file are inserted with the history command:
@@ -78,7 +82,8 @@ std::uint16_t PopulatePopupButtonFromMap(const Bundle* bundle, QComboBox* popup,
 // for each inserted string.
 std::uint16_t PopulatePopupButtonFromMapAndHistory(const Bundle* bundle, QComboBox* popup,
                                                    const _SettingMap* map, int jobContext,
-                                                   const QString& historyKey, int firstHistoryPosition,
+                                                   const QString& historyKey,
+                                                   int firstHistoryPosition,
                                                    std::uint32_t historyCommand,
                                                    std::uint32_t commandOverride);
 
@@ -87,6 +92,8 @@ std::uint16_t PopulatePopupButtonFromMapAndHistory(const Bundle* bundle, QComboB
 // Selects the first item whose ticket value equals the value and returns
 // true; returns false with the selection unchanged when no item does or the
 // pop-up is null.
+// Like every programmatic change, it emits currentIndexChanged but not
+// activated: panels take the user's choices from activated.
 bool SetPopupButtonToTicketValue(QComboBox* popup, std::int32_t value);
 
 // The ticket value of the selected item; 0 when nothing is selected or the

@@ -7,8 +7,7 @@ namespace orvan {
 
 namespace {
 
-template <typename View>
-Status updateReadOnlyView(View* view, const QString& text)
+template <typename View> Status updateReadOnlyView(View* view, const QString& text)
 {
     if (!view || text.isNull())
         return kBadParameter;

@@ -17,7 +17,8 @@ class XComboBoxContext : public QObject
     Q_OBJECT
 
 public:
-    XComboBoxContext(QComboBox* box, const _XComboBoxOptions& options) : QObject(box), model(options)
+    XComboBoxContext(QComboBox* box, const _XComboBoxOptions& options)
+        : QObject(box), model(options)
     {
         box->installEventFilter(this);
         if (box->lineEdit())

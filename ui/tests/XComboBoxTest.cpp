@@ -133,7 +133,8 @@ TEST_F(XComboBoxTest, SettingAValueShowsItsText)
 TEST_F(XComboBoxTest, FinalisingRecordsOnlyNewTexts)
 {
     PropertyValue file = PropertyValue::dictionary();
-    file.insert("JobName", PropertyValue(PropertyArray{PropertyValue("Memo"), PropertyValue("This one is too long")}));
+    file.insert("JobName", PropertyValue(PropertyArray{PropertyValue("Memo"),
+                                                       PropertyValue("This one is too long")}));
     ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
 
     {
@@ -146,8 +147,9 @@ TEST_F(XComboBoxTest, FinalisingRecordsOnlyNewTexts)
         XComboBoxFinalize(&box, true);
         EXPECT_EQ(XComboBoxModelOf(&box), nullptr);
     }
-    EXPECT_EQ(storedHistory("JobName"),
-              PropertyValue(PropertyArray{PropertyValue("Memo"), PropertyValue("This one is too long")}));
+    EXPECT_EQ(
+        storedHistory("JobName"),
+        PropertyValue(PropertyArray{PropertyValue("Memo"), PropertyValue("This one is too long")}));
 
     {
         QComboBox box;
@@ -164,7 +166,8 @@ TEST_F(XComboBoxTest, FinalisingRecordsOnlyNewTexts)
         XComboBoxFinalize(&box, true);
     }
     // New first; cut to the limit of two.
-    EXPECT_EQ(storedHistory("JobName"), PropertyValue(PropertyArray{PropertyValue("Letter"), PropertyValue("Memo")}));
+    EXPECT_EQ(storedHistory("JobName"),
+              PropertyValue(PropertyArray{PropertyValue("Letter"), PropertyValue("Memo")}));
 }
 
 TEST_F(XComboBoxTest, SettingUpAgainReplacesTheModel)
