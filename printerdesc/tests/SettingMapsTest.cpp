@@ -74,23 +74,6 @@ TEST(SettingMapRows, CountsAndTerminators)
     }
 }
 
-TEST(SettingMapRows, DeliberateOddities)
-{
-    constexpr std::int32_t kQujn = static_cast<std::int32_t>(FourCharCode("Qujn"));
-    for (const _SettingMap* map : {_BookletLayoutOrderMap, _RotateImageMap, _PrinterEmulationMap,
-                                   _OPISubsitutionMap, _OPIPrescanMap, _OnOffMap}) {
-        for (const _SettingMap* row = map; row->key; ++row)
-            EXPECT_EQ(row->ticketValue, kQujn) << row->key;
-    }
-    EXPECT_EQ(_FolderNameMap[0].ticketValue, static_cast<std::int32_t>(FourCharCode("Qfln")));
-    EXPECT_EQ(_LoginNameMap[0].ticketValue, static_cast<std::int32_t>(FourCharCode("JnUL")));
-    EXPECT_STREQ(_WatermarkOptionsMap[5].key, "WatermarmPrintOnPage1Only");
-    EXPECT_STREQ(_TabStockSetupMap[1].key, "0.5\" (8.5x11\" Template)");
-    EXPECT_STREQ(_JobTypeMap[4].featureKey, "JobStorage");
-    EXPECT_STREQ(_JobTypeMap[5].featureKey, "FaxKey");
-    EXPECT_EQ(_JobTypeMap[4].requiredState, 1);
-}
-
 TEST(SettingMapLookup, UIToTicketIgnoresGates)
 {
     InstalledOptionsGuard nothingInstalled;
