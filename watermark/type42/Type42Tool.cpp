@@ -34,19 +34,22 @@ struct Arguments
     bool help = false;
 };
 
-void printUsage(std::FILE* stream)
+constexpr const char* kSynopsis = "Usage: orvan-type42 FONT.ttf [POSTSCRIPT-NAME] [-o OUT]\n";
+
+void printHelp()
 {
-    std::fprintf(stream,
-                 "Usage: %s FONT.ttf [POSTSCRIPT-NAME] [-o OUT]\n"
-                 "Writes the PostScript Type 42 font program of a TrueType font to standard\n"
-                 "output or to OUT. Without POSTSCRIPT-NAME the font's own name is used.\n",
-                 kToolName);
+    std::fputs(kSynopsis, stdout);
+    std::fputs("Writes the PostScript Type 42 font program of a TrueType font to standard\n"
+               "output, or replaces OUT with it. FONT.ttf may be - for standard input.\n"
+               "Without POSTSCRIPT-NAME the font's own PostScript name is used.\n",
+               stdout);
 }
 
+// The message, then the synopsis.
 int usageError(const char* message)
 {
     std::fprintf(stderr, "%s: %s\n", kToolName, message);
-    printUsage(stderr);
+    std::fputs(kSynopsis, stderr);
     return kExitUsage;
 }
 
@@ -192,7 +195,7 @@ int main(int argc, char** argv)
     if (const auto error = parseArguments(argc, argv, arguments))
         return usageError(*error);
     if (arguments.help) {
-        printUsage(stdout);
+        printHelp();
         return 0;
     }
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
@@ -57,6 +58,7 @@ TEST_F(Type42Tool, WritesTheProgramUnderTheFontsOwnName)
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.error, "");
     EXPECT_TRUE(result.output == libraryProgram(kDejaVu, "DejaVuSans"));
+    EXPECT_TRUE(tool("- < " + kDejaVu).output == result.output);
 }
 
 TEST_F(Type42Tool, UsesTheNameGivenOnTheCommandLine)
@@ -94,9 +96,13 @@ TEST_F(Type42Tool, UsageErrorsExitWith2)
         const CommandResult result = tool(arguments);
         EXPECT_EQ(result.status, 2) << arguments;
         EXPECT_EQ(result.output, "") << arguments;
-        EXPECT_NE(result.error.find("Usage: orvan-type42"), std::string::npos) << arguments;
+        // The problem, then the synopsis.
+        EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '\n'), 2) << result.error;
+        EXPECT_NE(result.error.find("\nUsage: orvan-type42 FONT.ttf"), std::string::npos);
     }
-    EXPECT_EQ(tool("--help").status, 0);
+    const CommandResult help = tool("--help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.output.rfind("Usage: orvan-type42", 0), 0u);
 }
 
 TEST_F(Type42Tool, FailuresGiveOneLineAndExit1)
