@@ -38,4 +38,10 @@ std::optional<QByteArray> writePropertyList(const PropertyValue& value, QString*
 
 inline constexpr int kMaxPropertyListDepth = 256;
 
+namespace plist {
+// The full reader alone, without the fast path that readPropertyList tries
+// first; tests and fuzzers check that both agree.
+std::optional<PropertyValue> readWithFullReader(const QByteArray& xml, PropertyListError* error = nullptr);
+} // namespace plist
+
 } // namespace orvan

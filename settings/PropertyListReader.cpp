@@ -1,5 +1,8 @@
 #include "settings/PropertyList.h"
 
+#include "settings/PropertyListFastReader.h"
+#include "settings/PropertyListLeaves.h"
+
 #include <QXmlStreamReader>
 
 #include <cmath>
@@ -180,81 +183,33 @@ private:
         }
     }
 
-    std::optional<PropertyValue> readInteger()
+    // Leaf conversions are shared with the fast path, so both accept the same.
+    template <typename Parse>
+    std::optional<PropertyValue> readLeaf(Parse parse)
     {
         auto text = leafText();
         if (!text)
             return std::nullopt;
-        const QString trimmed = text->trimmed();
-        bool ok = false;
-        qint64 value = 0;
-        if (trimmed.startsWith(QLatin1String("0x")) || trimmed.startsWith(QLatin1String("0X")))
-            value = trimmed.mid(2).toLongLong(&ok, 16);
-        else if (trimmed.startsWith(QLatin1String("-0x")) || trimmed.startsWith(QLatin1String("-0X")))
-            value = -trimmed.mid(3).toLongLong(&ok, 16);
-        else
-            value = trimmed.toLongLong(&ok, 10);
-        if (!ok)
-            return fail(QStringLiteral("\"%1\" is not an integer in the 64-bit range").arg(trimmed.left(40)));
-        const bool fits32 = value >= std::numeric_limits<std::int32_t>::min() &&
-                            value <= std::numeric_limits<std::int32_t>::max();
-        return PropertyValue::integer(value, fits32 ? NumberType::CFIndex : NumberType::SInt64);
+        QString why;
+        auto value = parse(*text, &why);
+        if (!value)
+            return fail(why);
+        return value;
     }
-
-    std::optional<PropertyValue> readReal()
-    {
-        auto text = leafText();
-        if (!text)
-            return std::nullopt;
-        const QString trimmed = text->trimmed();
-        const QString lower = trimmed.toLower();
-        if (lower == QLatin1String("nan"))
-            return PropertyValue::real(std::numeric_limits<double>::quiet_NaN());
-        if (lower == QLatin1String("+infinity") || lower == QLatin1String("infinity") || lower == QLatin1String("inf"))
-            return PropertyValue::real(std::numeric_limits<double>::infinity());
-        if (lower == QLatin1String("-infinity") || lower == QLatin1String("-inf"))
-            return PropertyValue::real(-std::numeric_limits<double>::infinity());
-        bool ok = false;
-        const double value = trimmed.toDouble(&ok);
-        if (!ok)
-            return fail(QStringLiteral("\"%1\" is not a real number").arg(trimmed.left(40)));
-        return PropertyValue::real(value);
-    }
-
+    std::optional<PropertyValue> readInteger() { return readLeaf(plist::parseInteger); }
+    std::optional<PropertyValue> readReal() { return readLeaf(plist::parseReal); }
+    std::optional<PropertyValue> readDate() { return readLeaf(plist::parseDate); }
     std::optional<PropertyValue> readData()
     {
         auto text = leafText();
         if (!text)
             return std::nullopt;
-        // Whitespace and line breaks are part of the format; anything else
-        // outside the base64 alphabet is an error.
-        QByteArray compact;
-        compact.reserve(text->size());
-        for (const QChar c : std::as_const(*text)) {
-            const char16_t u = c.unicode();
-            if (u == ' ' || u == '\t' || u == '\n' || u == '\r')
-                continue;
-            const bool base64 = (u >= 'A' && u <= 'Z') || (u >= 'a' && u <= 'z') || (u >= '0' && u <= '9') ||
-                                u == '+' || u == '/' || u == '=';
-            if (!base64)
-                return fail(QStringLiteral("invalid character in base64 data"));
-            compact.append(static_cast<char>(u));
-        }
-        auto decoded = QByteArray::fromBase64Encoding(compact, QByteArray::AbortOnBase64DecodingErrors);
-        if (!decoded)
-            return fail(QStringLiteral("malformed base64 data"));
-        return PropertyValue::data(std::move(*decoded));
-    }
-
-    std::optional<PropertyValue> readDate()
-    {
-        auto text = leafText();
-        if (!text)
-            return std::nullopt;
-        QDateTime when = QDateTime::fromString(text->trimmed(), Qt::ISODate);
-        if (!when.isValid())
-            return fail(QStringLiteral("\"%1\" is not an ISO 8601 date").arg(text->trimmed().left(40)));
-        return PropertyValue::date(when.toUTC());
+        QString why;
+        // Non-Latin-1 characters become '?', which the alphabet check refuses.
+        auto bytes = plist::decodeBase64(text->toLatin1(), &why);
+        if (!bytes)
+            return fail(why);
+        return PropertyValue::data(std::move(*bytes));
     }
 
     QXmlStreamReader m_xml;
@@ -262,10 +217,17 @@ private:
 
 } // namespace
 
-std::optional<PropertyValue> readPropertyList(const QByteArray& xml, PropertyListError* error)
+std::optional<PropertyValue> plist::readWithFullReader(const QByteArray& xml, PropertyListError* error)
 {
     Reader reader(xml);
     return reader.run(error);
+}
+
+std::optional<PropertyValue> readPropertyList(const QByteArray& xml, PropertyListError* error)
+{
+    if (auto value = plist::readFast(xml))
+        return value;
+    return plist::readWithFullReader(xml, error);
 }
 
 } // namespace orvan

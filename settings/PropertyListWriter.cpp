@@ -1,5 +1,7 @@
 #include "settings/PropertyList.h"
 
+#include "settings/PropertyListLeaves.h"
+
 #include <QLocale>
 
 #include <cmath>
@@ -18,7 +20,7 @@ class Writer
 public:
     std::optional<QByteArray> run(const PropertyValue& value, QString* error)
     {
-        m_out.reserve(4096);
+        m_out.reserve(estimatedSize(value, 0) + 256);
         m_out += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                  "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
                  "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
@@ -33,6 +35,39 @@ public:
     }
 
 private:
+    // An upper-bound guess of the document's size, so the buffer grows once
+    // instead of copying megabytes of data at each doubling.
+    static qsizetype estimatedSize(const PropertyValue& value, int depth)
+    {
+        switch (value.kind()) {
+        case PropertyValue::Kind::Dictionary: {
+            qsizetype size = 2 * depth + 16;
+            for (const auto& [key, child] : value.asDictionary())
+                size += depth + 16 + key.size() * 3 + estimatedSize(child, depth + 1);
+            return size;
+        }
+        case PropertyValue::Kind::Array: {
+            qsizetype size = 2 * depth + 18;
+            for (const auto& child : value.asArray())
+                size += estimatedSize(child, depth + 1);
+            return size;
+        }
+        case PropertyValue::Kind::String:
+            return depth + 20 + value.toString().size() * 3;
+        case PropertyValue::Kind::Data: {
+            const qsizetype encoded = (value.toData().size() + 2) / 3 * 4;
+            return 2 * depth + 16 + encoded + (encoded / 76 + 1) * (depth + 1);
+        }
+        case PropertyValue::Kind::Null:
+        case PropertyValue::Kind::Integer:
+        case PropertyValue::Kind::Real:
+        case PropertyValue::Kind::Boolean:
+        case PropertyValue::Kind::Date:
+            return depth + 48;
+        }
+        return 0;
+    }
+
     void indent(int depth) { m_out.append(depth, '\t'); }
 
     bool refuse(const QString& why)
@@ -206,14 +241,7 @@ private:
             return;
         }
         m_out += "<data>\n";
-        const QByteArray encoded = bytes.toBase64();
-        constexpr qsizetype kLine = 76;
-        m_out.reserve(m_out.size() + encoded.size() + (encoded.size() / kLine + 1) * (depth + 1) + 64);
-        for (qsizetype at = 0; at < encoded.size(); at += kLine) {
-            indent(depth);
-            m_out.append(encoded.constData() + at, std::min(kLine, encoded.size() - at));
-            m_out += '\n';
-        }
+        plist::appendBase64Lines(m_out, bytes, depth);
         indent(depth);
         m_out += "</data>\n";
     }

@@ -1,4 +1,6 @@
 #include "settings/PropertyList.h"
+#include "settings/PropertyListFastReader.h"
+#include "settings/PropertyListLeaves.h"
 
 #include <gtest/gtest.h>
 
@@ -185,4 +187,60 @@ TEST(PropertyList, ReadsEntitiesHexIntegersAndBareValues)
     const auto bare = readPropertyList("<?xml version=\"1.0\"?><array><true/></array>");
     ASSERT_TRUE(bare);
     EXPECT_EQ(bare->size(), 1u);
+}
+
+TEST(PropertyList, FastPathAgreesWithTheFullReaderOrStandsAside)
+{
+    // Each document is read by both paths; where the fast path answers, the
+    // full reader must answer the same. Some must go to the full reader.
+    struct Row {
+        QByteArray xml;
+        bool fastHandles;
+    };
+    const Row rows[] = {
+        {wrap("<dict><key>a</key><string>x &amp; y &#x263A; &#65;</string></dict>"), true},
+        {wrap("<array><data>AQID</data><data>\n\tAQ==\n</data><data/><string/><dict/><array/></array>"), true},
+        {wrap("<dict><key>n</key><integer>-9223372036854775808</integer><key>r</key><real>-0.0</real></dict>"), true},
+        {"<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><string>Grüße</string></plist>", true},
+        {wrap("<string>line\r\nbreak</string>"), false},   // line-end folding
+        {wrap("<!-- note --><string>x</string>"), false},    // comment
+        {wrap("<string><![CDATA[<raw>]]></string>"), false}, // CDATA
+        {"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist><string>caf\xE9</string></plist>", false},
+        {wrap("<true></true>"), false},
+    };
+    for (const Row& row : rows) {
+        const auto fast = plist::readFast(row.xml);
+        const auto full = plist::readWithFullReader(row.xml);
+        ASSERT_TRUE(full) << row.xml.toStdString();
+        EXPECT_EQ(fast.has_value(), row.fastHandles) << row.xml.toStdString();
+        if (fast)
+            EXPECT_EQ(*fast, *full);
+        EXPECT_EQ(*readPropertyList(row.xml), *full);
+    }
+    EXPECT_EQ(readPropertyList(wrap("<string>line\r\nbreak</string>"))->toString(), "line\nbreak");
+    EXPECT_EQ(readPropertyList("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist><string>caf\xE9</string></plist>")
+                  ->toString(),
+              QString::fromUtf8("café"));
+}
+
+TEST(PropertyList, Base64IsStrictAndLineSplitRoundTrips)
+{
+    for (int length : {0, 1, 2, 3, 4, 56, 57, 58, 59, 114, 1000}) {
+        QByteArray bytes;
+        for (int i = 0; i < length; ++i)
+            bytes.append(static_cast<char>(i * 131 + 7));
+        QByteArray lines;
+        plist::appendBase64Lines(lines, bytes, 2);
+        EXPECT_EQ(lines.replace("\t", "").replace("\n", ""), bytes.toBase64()) << length;
+        const auto back = plist::decodeBase64(lines, nullptr);
+        ASSERT_TRUE(back) << length;
+        EXPECT_EQ(*back, bytes) << length;
+    }
+    for (const char* bad : {"A", "AB=C", "AB===", "A===", "AB==CD", "AB*D", "ABC\x01"}) {
+        QString why;
+        EXPECT_FALSE(plist::decodeBase64(QByteArray(bad), &why)) << bad;
+        EXPECT_FALSE(why.isEmpty());
+    }
+    EXPECT_EQ(plist::decodeBase64(QByteArray("AQI"), nullptr), QByteArray("\x01\x02")); // unpadded
+    EXPECT_EQ(plist::decodeBase64(QByteArray(" A Q\nI = "), nullptr), QByteArray("\x01\x02"));
 }
