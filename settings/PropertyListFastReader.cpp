@@ -272,7 +272,9 @@ private:
             }
             q = semicolon + 1;
         }
-        QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+        // A U+FEFF at the start of a text is content here, not a byte-order mark.
+        QStringDecoder decoder(QStringConverter::Utf8,
+                               QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
         QString decoded = decoder.decode(utf8);
         if (decoder.hasError())
             return std::nullopt;
