@@ -15,7 +15,8 @@ const QString kBackShiftYKey = QStringLiteral("BackShiftY");
 const QString kTabExtensionKey = QStringLiteral("TabExtension");
 const QString kBackMirrorsFrontKey = QStringLiteral("BackMirrorsFront");
 
-struct Distance {
+struct Distance
+{
     const QString& key;
     std::int32_t ImageShiftOptions::*field;
     bool backSide;

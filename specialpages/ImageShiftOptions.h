@@ -22,7 +22,8 @@
 
 namespace orvan {
 
-struct ImageShiftOptions {
+struct ImageShiftOptions
+{
     // All unset: no shift of its own, the job's settings apply.
     std::int32_t frontShiftX = kUnset;
     std::int32_t frontShiftY = kUnset;

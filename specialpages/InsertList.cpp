@@ -36,9 +36,10 @@ Status InsertList::add(SpecialPageSpan pages)
         const auto* insert = dynamic_cast<const Insert*>(page);
         if (!insert)
             continue;
-        const auto position = std::find_if(m_pages.begin(), m_pages.end(), [insert](const auto& held) {
-            return held->startPage() > insert->startPage();
-        });
+        const auto position =
+            std::find_if(m_pages.begin(), m_pages.end(), [insert](const auto& held) {
+                return held->startPage() > insert->startPage();
+            });
         m_pages.insert(position, insert->clone());
     }
     return kNoError;

@@ -4,7 +4,8 @@ namespace orvan {
 
 namespace {
 
-enum class ParseState {
+enum class ParseState
+{
     Start, // nothing pending
     Dash,  // a hyphen with no number before it
     First, // a first number
@@ -170,7 +171,8 @@ private:
 
 } // namespace
 
-Status CreatePageRangesBySeparatingString(QStringView text, bool asRanges, std::vector<PageRange>* result)
+Status CreatePageRangesBySeparatingString(QStringView text, bool asRanges,
+                                          std::vector<PageRange>* result)
 {
     if (!result)
         return kBadParameter;

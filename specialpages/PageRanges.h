@@ -21,7 +21,8 @@ inline constexpr Status kInvalidRangeOrder = 1002;  // first page after the last
 inline constexpr Status kInvalidPageNumbers = 1003; // page 0 where a real page is needed
 inline constexpr Status kPageRangeConflict = 1234;  // special pages that clash
 
-struct PageRange {
+struct PageRange
+{
     std::int32_t first;
     std::int32_t count;
 
@@ -42,6 +43,7 @@ struct PageRange {
 // Returns kNoError, kPageNumberLimit, kInvalidPageRanges (also for a text that
 // names no page) or kInvalidRangeOrder; kBadParameter when result is null.
 // result is assigned on success only.
-Status CreatePageRangesBySeparatingString(QStringView text, bool asRanges, std::vector<PageRange>* result);
+Status CreatePageRangesBySeparatingString(QStringView text, bool asRanges,
+                                          std::vector<PageRange>* result);
 
 } // namespace orvan

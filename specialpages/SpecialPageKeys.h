@@ -14,7 +14,8 @@ inline const QString kSpecialPageStockKey = QStringLiteral("Stock");
 inline const QString kSidesImagedKey = QStringLiteral("SidesImaged");
 inline const QString kQuantityKey = QStringLiteral("Quantity");
 inline const QString kEndPageKey = QStringLiteral("EndPage");
-inline const QString kImageShiftOptionsPageKey = QStringLiteral("com.orvan.print.ImageShiftOptionsPage");
+inline const QString kImageShiftOptionsPageKey =
+    QStringLiteral("com.orvan.print.ImageShiftOptionsPage");
 inline const QString kHalftoneScreenKey = QStringLiteral("HalftoneScreen");
 inline const QString kLightenDarkenKey = QStringLiteral("LightenDarken");
 
@@ -22,7 +23,8 @@ inline const QString kLightenDarkenKey = QStringLiteral("LightenDarken");
 inline const QString kFrontCoverKey = QStringLiteral("com.orvan.print.SpecialPages.FrontCover");
 inline const QString kBackCoverKey = QStringLiteral("com.orvan.print.SpecialPages.BackCover");
 inline const QString kInsertListKey = QStringLiteral("com.orvan.print.SpecialPages.InsertList");
-inline const QString kExceptionListKey = QStringLiteral("com.orvan.print.SpecialPages.ExceptionList");
+inline const QString kExceptionListKey =
+    QStringLiteral("com.orvan.print.SpecialPages.ExceptionList");
 inline const QString kJobLevelStockKey = QStringLiteral("com.orvan.print.JobLevelStock");
 inline const QString kBookletLayoutKey = QStringLiteral("com.orvan.print.BookletLayout");
 

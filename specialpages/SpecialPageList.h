@@ -55,7 +55,10 @@ public:
     PropertyValue asTicket() const;
 
     // A list of the same kind holding clones of every page, built with add.
-    std::unique_ptr<SpecialPageList> clone() const { return std::unique_ptr<SpecialPageList>(cloneImpl()); }
+    std::unique_ptr<SpecialPageList> clone() const
+    {
+        return std::unique_ptr<SpecialPageList>(cloneImpl());
+    }
 
 protected:
     SpecialPageList();

@@ -11,7 +11,8 @@ namespace orvan {
 
 namespace {
 
-struct NotificationText {
+struct NotificationText
+{
     Status code;
     const char* titleKey;
     const char* messageKey;

@@ -46,8 +46,8 @@ std::vector<std::unique_ptr<Page>> readPages(const Ticket& ticket, const QString
 
 Status WriteCoversToTicket(Ticket& ticket, const Cover* frontCover, const Cover* backCover)
 {
-    const Status status =
-        storeOrRemove(ticket, kFrontCoverKey, frontCover ? frontCover->asTicket() : PropertyValue());
+    const Status status = storeOrRemove(ticket, kFrontCoverKey,
+                                        frontCover ? frontCover->asTicket() : PropertyValue());
     if (status != kNoError)
         return status;
     // A booklet folds one sheet around the job: equal covers are stored once
@@ -55,7 +55,8 @@ Status WriteCoversToTicket(Ticket& ticket, const Cover* frontCover, const Cover*
     const bool sameCovers = frontCover && backCover && *frontCover == *backCover;
     if (bookletLayout(ticket) && sameCovers)
         return storeOrRemove(ticket, kBackCoverKey, PropertyValue());
-    return storeOrRemove(ticket, kBackCoverKey, backCover ? backCover->asTicket() : PropertyValue());
+    return storeOrRemove(ticket, kBackCoverKey,
+                         backCover ? backCover->asTicket() : PropertyValue());
 }
 
 void ReadCoversFromTicket(const Ticket& ticket, std::unique_ptr<Cover>& frontCover,

@@ -14,7 +14,8 @@
 
 namespace orvan {
 
-enum class SpecialPagesSync : int {
+enum class SpecialPagesSync : int
+{
     WriteTicket = 0,
     ReadTicket = 1,
 };
@@ -34,7 +35,8 @@ void ReadCoversFromTicket(const Ticket& ticket, std::unique_ptr<Cover>& frontCov
 
 // What the special pages of a job consist of, as the Special Pages editor and
 // the Paper/Output panel hold it between syncs.
-struct SpecialPagesState {
+struct SpecialPagesState
+{
     InsertList inserts;
     ExceptionPageList exceptions;
     std::unique_ptr<Cover> frontCover;

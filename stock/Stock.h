@@ -36,7 +36,8 @@ inline constexpr std::int32_t kInstalledFeatureSource = 10;
 
 // For which use a stock is being set up. Every context but Job belongs to a
 // special page, whose stock may leave attributes unset.
-enum class JobContext : std::int32_t {
+enum class JobContext : std::int32_t
+{
     Job = 0,
     ImageShift = 1,
     Covers = 2,

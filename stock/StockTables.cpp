@@ -151,7 +151,8 @@ std::size_t StockTableRowCount(std::span<const StockTableRow> table)
     return rows;
 }
 
-std::optional<std::int32_t> StockTableValue(std::span<const StockTableRow> table, std::string_view key)
+std::optional<std::int32_t> StockTableValue(std::span<const StockTableRow> table,
+                                            std::string_view key)
 {
     for (const StockTableRow& row : table) {
         if (!row.key)

@@ -13,7 +13,8 @@
 
 namespace orvan {
 
-struct StockTableRow {
+struct StockTableRow
+{
     const char* key;
     std::int32_t value;
 };
@@ -25,7 +26,8 @@ extern const std::span<const StockTableRow> _MediaColorMap;
 // Rows before the terminator.
 std::size_t StockTableRowCount(std::span<const StockTableRow> table);
 // The value of the first row with that key; nullopt when absent.
-std::optional<std::int32_t> StockTableValue(std::span<const StockTableRow> table, std::string_view key);
+std::optional<std::int32_t> StockTableValue(std::span<const StockTableRow> table,
+                                            std::string_view key);
 // The key of the first row with that value; null when absent.
 const char* StockTableKey(std::span<const StockTableRow> table, std::int32_t value);
 

@@ -11,7 +11,8 @@ namespace {
 
 // A range and the tag that tells which added range it came from; the tag
 // travels in lightenDarken, a setting a split or cut range must keep.
-struct TaggedRange {
+struct TaggedRange
+{
     std::int32_t start;
     std::int32_t end;
     std::int32_t tag;
@@ -49,7 +50,8 @@ std::vector<TaggedRange> contents(const ExceptionPageList& list)
     return ranges;
 }
 
-struct WalkCase {
+struct WalkCase
+{
     const char* name;
     std::vector<TaggedRange> held;
     std::vector<TaggedRange> added;
@@ -163,7 +165,8 @@ TEST(ExceptionPageListAdd, RandomSequencesMatchTheNewestRangeModel)
         for (int tag = 1; tag <= steps; ++tag) {
             const int start = page(random);
             // Mostly short ranges, sometimes long ones that cover others.
-            const int end = std::min(kPages + 7, start + (tag % 4 == 0 ? 4 * length(random) : length(random) - 1));
+            const int end = std::min(
+                kPages + 7, start + (tag % 4 == 0 ? 4 * length(random) : length(random) - 1));
             addRange(list, {start, end, tag});
             for (int p = start; p <= end; ++p)
                 owner[p] = tag;
@@ -172,7 +175,8 @@ TEST(ExceptionPageListAdd, RandomSequencesMatchTheNewestRangeModel)
             std::int32_t previousEnd = -1;
             for (const TaggedRange& range : contents(list)) {
                 ASSERT_LE(range.start, range.end) << "sequence " << sequence;
-                ASSERT_GT(range.start, previousEnd) << "sequence " << sequence << ": unsorted or overlapping";
+                ASSERT_GT(range.start, previousEnd)
+                    << "sequence " << sequence << ": unsorted or overlapping";
                 previousEnd = range.end;
                 for (int p = range.start; p <= range.end; ++p)
                     seen[p] = range.tag;

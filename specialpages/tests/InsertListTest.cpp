@@ -1,5 +1,5 @@
-#include "specialpages/ExceptionPage.h"
 #include "specialpages/InsertList.h"
+#include "specialpages/ExceptionPage.h"
 
 #include <gtest/gtest.h>
 
@@ -68,16 +68,17 @@ TEST(InsertListMove, NeighbourStartPageDecides)
 {
     // before page 1: a; after page 3: b, c; after page 5: d.
     const InsertList list = listOf({{0, 1}, {3, 2}, {3, 3}, {5, 4}});
-    struct Case {
+    struct Case
+    {
         std::int32_t name;
         bool up;
         bool down;
     };
     const Case cases[] = {
-        {1, false, true},  // first in the list; the insert before page 1 may itself move down
-        {2, false, true},  // its predecessor is before page 1
-        {3, true, true},   // same page on both sides
-        {4, true, false},  // last; moving past an insert of another page is allowed
+        {1, false, true}, // first in the list; the insert before page 1 may itself move down
+        {2, false, true}, // its predecessor is before page 1
+        {3, true, true},  // same page on both sides
+        {4, true, false}, // last; moving past an insert of another page is allowed
     };
     for (const Case& c : cases) {
         EXPECT_EQ(list.canPromote(named(list, c.name)), c.up) << c.name;

@@ -8,7 +8,8 @@ using namespace orvan;
 
 namespace {
 
-struct ParseCase {
+struct ParseCase
+{
     const char* text;
     Status status;
     std::vector<PageRange> ranges; // asRanges true; empty on failure
@@ -68,7 +69,8 @@ TEST(PageRanges, ParsesInBothModes)
     for (const ParseCase& c : cases) {
         for (bool asRanges : {true, false}) {
             std::vector<PageRange> result{{42, 42}};
-            const Status status = CreatePageRangesBySeparatingString(QString::fromUtf8(c.text), asRanges, &result);
+            const Status status =
+                CreatePageRangesBySeparatingString(QString::fromUtf8(c.text), asRanges, &result);
             EXPECT_EQ(status, c.status) << '"' << c.text << "\" asRanges " << asRanges;
             if (c.status == kNoError) {
                 EXPECT_EQ(result, asRanges ? c.ranges : singlePages(c.ranges))

@@ -8,6 +8,8 @@
 
 #include <QStringList>
 
+#include <typeinfo>
+
 using namespace orvan;
 
 namespace {
@@ -41,9 +43,9 @@ TEST(SpecialPageRecords, DefaultsAndBaseKeys)
     EXPECT_EQ(exception.halftoneScreen(), kUnset);
     EXPECT_EQ(exception.lightenDarken(), kUnset);
     EXPECT_TRUE(exception.imageShift().isUnset());
-    for (const SpecialPage* page : {static_cast<const SpecialPage*>(&cover),
-                                    static_cast<const SpecialPage*>(&insert),
-                                    static_cast<const SpecialPage*>(&exception)}) {
+    for (const SpecialPage* page :
+         {static_cast<const SpecialPage*>(&cover), static_cast<const SpecialPage*>(&insert),
+          static_cast<const SpecialPage*>(&exception)}) {
         EXPECT_EQ(page->startPage(), 0);
         EXPECT_EQ(page->stock().color(), kWhiteMediaColor);
         const PropertyValue dictionary = page->asTicket();
@@ -117,8 +119,9 @@ TEST(SpecialPageRecords, ExceptionPageKeysAndWhatComesBack)
     page.imageShift().tabExtension = 60;
     const PropertyValue dictionary = page.asTicket();
 
-    EXPECT_EQ(keysOf(dictionary), (QStringList{"EndPage", "HalftoneScreen", "LightenDarken", "SidesImaged",
-                                               "StartPage", "Stock", "com.orvan.print.ImageShiftOptionsPage"}));
+    EXPECT_EQ(keysOf(dictionary),
+              (QStringList{"EndPage", "HalftoneScreen", "LightenDarken", "SidesImaged", "StartPage",
+                           "Stock", "com.orvan.print.ImageShiftOptionsPage"}));
     // The plex travels under the cover's key.
     EXPECT_EQ(numberAt(dictionary, "SidesImaged"), kPlexDuplexShort);
     EXPECT_EQ(numberAt(dictionary, "HalftoneScreen"), 2);
@@ -135,35 +138,22 @@ TEST(SpecialPageRecords, ExceptionPageKeysAndWhatComesBack)
     EXPECT_EQ(Cover(&dictionary).sidesImaged(), kPlexDuplexShort);
 }
 
-TEST(SpecialPageRecords, ClonesCopyEveryField)
+TEST(SpecialPageRecords, ClonesKeepTheirKind)
 {
-    ExceptionPage page;
-    page.setStartPage(2);
-    page.setEndPage(3);
-    page.setPlex(kPlexSimplex);
-    page.setHalftoneScreen(4);
-    page.setLightenDarken(1);
-    page.imageShift().backMirrorsFront = true;
-    page.stock().setWidth(1200);
-    const std::unique_ptr<ExceptionPage> clone = page.clone();
-    EXPECT_EQ(clone->startPage(), 2);
-    EXPECT_EQ(clone->endPage(), 3);
-    EXPECT_EQ(clone->plex(), kPlexSimplex);
-    EXPECT_EQ(clone->halftoneScreen(), 4);
-    EXPECT_EQ(clone->lightenDarken(), 1);
-    EXPECT_EQ(clone->imageShift(), page.imageShift());
-    EXPECT_EQ(clone->stock(), page.stock());
-
-    const SpecialPage& base = page;
-    const std::unique_ptr<SpecialPage> generic = base.clone();
-    EXPECT_NE(dynamic_cast<ExceptionPage*>(generic.get()), nullptr);
-
+    // Field-by-field copying of exception pages is checked where the list
+    // splits a range.
     Cover cover;
     cover.setSidesImaged(kCoverPrintedSimplex);
-    EXPECT_EQ(*cover.clone(), cover);
     Insert insert;
     insert.setQuantity(6);
-    EXPECT_EQ(insert.clone()->quantity(), 6);
+    const ExceptionPage exception;
+    for (const SpecialPage* page :
+         {static_cast<const SpecialPage*>(&cover), static_cast<const SpecialPage*>(&insert),
+          static_cast<const SpecialPage*>(&exception)}) {
+        const std::unique_ptr<SpecialPage> clone = page->clone();
+        EXPECT_EQ(typeid(*clone), typeid(*page));
+        EXPECT_EQ(clone->asTicket(), page->asTicket());
+    }
 }
 
 TEST(ImageShiftOptions, SpecialPagesWriteOnlyWhatIsSet)

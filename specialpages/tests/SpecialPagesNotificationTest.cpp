@@ -1,7 +1,7 @@
+#include "specialpages/SpecialPagesNotification.h"
 #include "platform/Alerts.h"
 #include "settings/Bundle.h"
 #include "specialpages/PageRanges.h"
-#include "specialpages/SpecialPagesNotification.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,8 @@ private:
     AlertPresenter m_previous;
 };
 
-struct CodeKeys {
+struct CodeKeys
+{
     Status code;
     const char* title;
     const char* message;
@@ -90,10 +91,16 @@ TEST(SpecialPagesNotification, OneCautionAlertPerErrorCode)
 
 TEST(SpecialPagesNotification, TextsComeFromTheBundle)
 {
-    const Bundle bundle(QStringLiteral(ORVAN_BINARY_DIR "/specialpages-test-bundle"), QStringLiteral("en"));
-    if (!bundle.localizedString(QStringLiteral("Invalid Range Order")))
-        GTEST_SKIP() << "string table not compiled";
+    const Bundle bundle(QStringLiteral(ORVAN_BINARY_DIR "/specialpages-test-bundle"),
+                        QStringLiteral("en"));
     const auto texts = englishTexts();
+    for (const CodeKeys& entry : kCodeKeys) {
+        for (const char* key : {entry.title, entry.message}) {
+            ASSERT_TRUE(texts.count(QString::fromLatin1(key))) << key << " has no English text";
+            ASSERT_TRUE(bundle.localizedString(QString::fromLatin1(key)))
+                << key << " not in the compiled table";
+        }
+    }
     AlertRecorder recorder;
     for (const CodeKeys& entry : kCodeKeys) {
         recorder.alerts.clear();
@@ -105,19 +112,7 @@ TEST(SpecialPagesNotification, TextsComeFromTheBundle)
     }
     recorder.alerts.clear();
     SpecialPagesUserNotification(kPageNumberLimit, bundle);
+    // The limit message takes the number of digits a page number may have.
+    ASSERT_TRUE(texts.at("Page Number Limit").contains(QStringLiteral("%1")));
     EXPECT_EQ(recorder.alerts.at(0).message, texts.at("Page Number Limit").arg(5));
-    EXPECT_TRUE(recorder.alerts.at(0).message.contains(u'5'));
-}
-
-TEST(SpecialPagesNotification, EveryKeyHasAnEnglishText)
-{
-    const auto texts = englishTexts();
-    for (const CodeKeys& entry : kCodeKeys) {
-        for (const char* key : {entry.title, entry.message}) {
-            const auto found = texts.find(QString::fromLatin1(key));
-            ASSERT_NE(found, texts.end()) << key;
-            EXPECT_FALSE(found->second.trimmed().isEmpty()) << key;
-        }
-    }
-    EXPECT_TRUE(texts.at("Page Number Limit").contains(QStringLiteral("%1")));
 }

@@ -1,5 +1,5 @@
-#include "specialpages/SpecialPageKeys.h"
 #include "specialpages/SpecialPagesTicket.h"
+#include "specialpages/SpecialPageKeys.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,8 @@ std::unique_ptr<Cover> makeCover(std::int32_t sides, std::int32_t color)
 
 void setBooklet(Ticket& ticket, bool on)
 {
-    ASSERT_EQ(ticket.setItem(kPanelClient, kBookletLayoutKey, PropertyValue::boolean(on)), kNoError);
+    ASSERT_EQ(ticket.setItem(kPanelClient, kBookletLayoutKey, PropertyValue::boolean(on)),
+              kNoError);
 }
 
 std::unique_ptr<Cover> coverIn(const Ticket& ticket, const QString& key)
@@ -50,7 +51,8 @@ TEST(SyncCoversWrite, StoresCoversWithTheRecordClient)
 
 TEST(SyncCoversWrite, BookletLayoutStoresEqualCoversOnce)
 {
-    struct Case {
+    struct Case
+    {
         const char* name;
         std::optional<bool> booklet;
         bool equalCovers;

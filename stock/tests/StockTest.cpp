@@ -143,9 +143,9 @@ TEST(StockTicket, DefaultStockWritesOnlyItsColour)
 TEST(StockTicket, FullStockWritesEveryKeyWithItsOwnSpelling)
 {
     const PropertyValue dictionary = fullStock().asTicket();
-    QStringList expected{"Size",        "Width",         "Length",        "Type",       "CustomType",
-                         "Modulus",     "Color",         "CustomColor",   "Weight",     "Punched",
-                         "Description", "SidesCoated",   "kCoatingType",  "Finish",     "kGrain",
+    QStringList expected{"Size",        "Width",          "Length",        "Type",   "CustomType",
+                         "Modulus",     "Color",          "CustomColor",   "Weight", "Punched",
+                         "Description", "SidesCoated",    "kCoatingType",  "Finish", "kGrain",
                          "CustomName",  "CustomNameOnly", "CustomComment", "Source"};
     QStringList keys = keysOf(dictionary);
     expected.sort();
@@ -205,7 +205,8 @@ TEST(StockTicket, ModulusIsWrittenAlwaysButReadOnlyForTabTypes)
     tabStock.setModulus(5);
     EXPECT_EQ(numberAt(tabStock.asTicket(), "Modulus"), 5);
 
-    struct Case {
+    struct Case
+    {
         long type;
         std::int32_t modulus;
     };
