@@ -6,6 +6,7 @@
 
 #include <charconv>
 #include <cstdio>
+#include <cstring>
 
 namespace orvan {
 namespace {
@@ -18,6 +19,8 @@ constexpr std::size_t kMaxStringBytes = 65534;
 // Header lines are formatted into one buffer of this size; the longest is
 // the FontName line with a name of kMaxPostScriptName bytes.
 constexpr std::size_t kLineBufferSize = 640;
+// Digits of the largest glyph index (65535).
+constexpr std::size_t kMaxDigits = 5;
 
 std::string_view usablePostScriptName(std::string_view name)
 {
@@ -92,17 +95,6 @@ void appendHeader(const Type42Font& font, std::string_view postScriptName,
     out += "end readonly def\n";
 }
 
-// The largest break point in (from, from + kMaxStringBytes], or 0 when none.
-std::uint64_t stringEnd(const Type42Font& font, std::uint64_t from)
-{
-    std::uint64_t best = 0;
-    for (std::uint64_t point : font.breakPoints) {
-        if (point > from && point <= from + kMaxStringBytes && point > best)
-            best = point;
-    }
-    return best;
-}
-
 // Appends the sfnts array; false when it had to stop early because no
 // break point was in reach (the array is then left open).
 bool appendSfnts(const Type42Font& font, std::string& out)
@@ -114,7 +106,7 @@ bool appendSfnts(const Type42Font& font, std::string& out)
     while (position < length) {
         std::size_t end = length;
         if (length - position >= kMaxStringBytes) {
-            end = static_cast<std::size_t>(stringEnd(font, position));
+            end = static_cast<std::size_t>(lastBreakPointWithin(font, position, kMaxStringBytes));
             if (end == 0)
                 return false;
         }
@@ -134,23 +126,42 @@ bool appendSfnts(const Type42Font& font, std::string& out)
     return true;
 }
 
+// Writes "/NAME GLYPH def\n" at `cursor`; returns its end.
+char* writeCharString(char* cursor, std::string_view name, std::size_t glyph)
+{
+    *cursor++ = '/';
+    std::memcpy(cursor, name.data(), name.size());
+    cursor += name.size();
+    *cursor++ = ' ';
+    cursor = std::to_chars(cursor, cursor + kMaxDigits, glyph).ptr;
+    std::memcpy(cursor, " def\n", 5);
+    return cursor + 5;
+}
+
 void appendCharStrings(const Type42Font& font, std::string& out)
 {
     appendFormatted(out, "/CharStrings %d dict dup begin\n", int{font.numGlyphs});
     // Only post format 2.0 names glyphs; other fonts get an empty dictionary,
     // which is how their programs have always been written.
     if (font.hasGlyphNames) {
+        // Glyph 0 is .notdef to PostScript whatever the font calls it.
+        const auto nameOf = [&font](std::size_t g) {
+            return g == 0 ? std::string_view(".notdef") : font.glyphNames[g];
+        };
+        // Sized first, then written in place: thousands of short lines.
+        std::size_t size = 0;
         for (std::size_t g = 0; g < font.glyphNames.size(); ++g) {
-            // Glyph 0 is .notdef to PostScript whatever the font calls it.
-            const std::string_view name = g == 0 ? std::string_view(".notdef") : font.glyphNames[g];
-            if (name.empty())
-                continue;
-            out += '/';
-            out += name;
-            out += ' ';
-            appendNumber(out, g);
-            out += " def\n";
+            if (!nameOf(g).empty())
+                size += nameOf(g).size() + 7 + kMaxDigits;
         }
+        const std::size_t start = out.size();
+        out.resize(start + size);
+        char* cursor = out.data() + start;
+        for (std::size_t g = 0; g < font.glyphNames.size(); ++g) {
+            if (!nameOf(g).empty())
+                cursor = writeCharString(cursor, nameOf(g), g);
+        }
+        out.resize(static_cast<std::size_t>(cursor - out.data()));
     }
     out += "end readonly def\n";
     // "FontName" without a slash, as every stored program has it.

@@ -13,6 +13,8 @@ public:
     // Returns the slot holding `name`, or the empty slot where it would go.
     std::size_t slotOf(std::string_view name) const
     {
+        if (!mayHold(name))
+            return kAbsent;
         std::size_t slot = hash(name) & (kSlots - 1);
         while (used_[slot] && names_[slot] != name)
             slot = (slot + 1) & (kSlots - 1);
@@ -21,16 +23,34 @@ public:
     bool contains(std::string_view name) const { return used_[slotOf(name)]; }
     void insert(std::string_view name)
     {
+        sizes_[sizeKey(name)] = true;
         const std::size_t slot = slotOf(name);
         used_[slot] = true;
         names_[slot] = name;
     }
-    void mark(std::size_t slot) { marked_[slot] = true; }
+    // Marks `name` as seen when the set holds it.
+    void markIfHeld(std::string_view name)
+    {
+        const std::size_t slot = slotOf(name);
+        if (used_[slot])
+            marked_[slot] = true;
+    }
     bool marked(std::string_view name) const { return marked_[slotOf(name)]; }
 
 private:
     // Twice the largest number of distinct names, so probes stay short.
     static constexpr std::size_t kSlots = 512;
+    // A slot never used, answered for names the size filter rules out.
+    static constexpr std::size_t kAbsent = kSlots;
+
+    // Most glyph names (uni0410, a.sc, ...) share no length and first
+    // character with any name in the set: those are ruled out at once.
+    static std::size_t sizeKey(std::string_view name)
+    {
+        const std::size_t first = name.empty() ? 0 : static_cast<unsigned char>(name.front());
+        return (name.size() * 37 + first) & 1023;
+    }
+    bool mayHold(std::string_view name) const { return sizes_[sizeKey(name)]; }
 
     // Length and end characters separate glyph names well enough, and cost
     // the same for long names as for short ones.
@@ -45,8 +65,9 @@ private:
     }
 
     std::array<std::string_view, kSlots> names_{};
-    std::array<bool, kSlots> used_{};
-    std::array<bool, kSlots> marked_{};
+    std::array<bool, kSlots + 1> used_{};
+    std::array<bool, kSlots + 1> marked_{};
+    std::array<bool, 1024> sizes_{};
 };
 
 } // namespace
@@ -60,11 +81,8 @@ Type42Encoding buildEncoding(std::span<const std::string_view> glyphNames)
     NameSet standard;
     for (std::string_view name : encoding)
         standard.insert(name);
-    for (std::string_view name : glyphNames) {
-        const std::size_t slot = standard.slotOf(name);
-        if (standard.contains(name))
-            standard.mark(slot);
-    }
+    for (std::string_view name : glyphNames)
+        standard.markIfHeld(name);
     for (std::string_view& name : encoding) {
         if (!standard.marked(name))
             name = glyphNames[0];

@@ -82,6 +82,7 @@ Type42Result readBreakPoints(FontBytes bytes, std::optional<FontBytes> loca,
     font.breakPoints.reserve(tableCount + font.numGlyphs);
     for (std::size_t i = 0; i < tableCount; ++i)
         font.breakPoints.push_back(tableRecord(bytes, i).offset);
+    font.tableBreakPoints = tableCount;
 
     // Without both loca and glyf there are no glyph starts to offer.
     if (!loca || !glyf)
@@ -95,13 +96,43 @@ Type42Result readBreakPoints(FontBytes bytes, std::optional<FontBytes> loca,
             offset = std::uint64_t{readU16(*loca, 2 * g)} * 2;
         else if (locaFormat == 1)
             offset = readU32(*loca, 4 * g);
-        if (offset % 4 == 0)
-            font.breakPoints.push_back(glyf->offset + offset);
+        if (offset % 4 == 0) {
+            const std::uint64_t start = glyf->offset + offset;
+            if (font.breakPoints.size() > font.tableBreakPoints && start < font.breakPoints.back())
+                font.glyphStartsAscend = false;
+            font.breakPoints.push_back(start);
+        }
     }
     return Type42Result::Converted;
 }
 
 } // namespace
+
+std::uint64_t lastBreakPointWithin(const Type42Font& font, std::uint64_t from, std::uint64_t reach)
+{
+    const auto inReach = [from, reach](std::uint64_t point) {
+        return point > from && point - from <= reach;
+    };
+    std::uint64_t best = 0;
+    const auto tablesEnd =
+        font.breakPoints.begin() + static_cast<std::ptrdiff_t>(font.tableBreakPoints);
+    for (auto it = font.breakPoints.begin(); it != tablesEnd; ++it) {
+        if (inReach(*it) && *it > best)
+            best = *it;
+    }
+    if (font.glyphStartsAscend) {
+        // The last glyph start not beyond the reach, found by bisection.
+        const auto after = std::upper_bound(tablesEnd, font.breakPoints.end(), from + reach);
+        if (after != tablesEnd && inReach(*(after - 1)) && *(after - 1) > best)
+            best = *(after - 1);
+        return best;
+    }
+    for (auto it = tablesEnd; it != font.breakPoints.end(); ++it) {
+        if (inReach(*it) && *it > best)
+            best = *it;
+    }
+    return best;
+}
 
 Type42Result readType42Font(FontBytes bytes, Type42Font& font)
 {

@@ -27,7 +27,15 @@ struct Type42Font
     // Where sfnts strings may end: every table's offset in directory order,
     // then the start of each glyph whose loca offset is a multiple of 4.
     std::vector<std::uint64_t> breakPoints;
+    // How many of breakPoints are table offsets, and whether the glyph starts
+    // after them ascend (they do in any font whose loca is well formed).
+    std::size_t tableBreakPoints = 0;
+    bool glyphStartsAscend = true;
 };
+
+// The largest break point b of `font` with from < b <= from + reach; 0 when
+// there is none.
+std::uint64_t lastBreakPointWithin(const Type42Font& font, std::uint64_t from, std::uint64_t reach);
 
 // Reads `bytes` into `font`. Returns Converted when the font can be written;
 // otherwise the first failure, in the order: directory, vital tables, table

@@ -280,6 +280,22 @@ TEST(Type42Sfnts, GlyphStartsBreakOnlyAtOffsetsThatAreMultiplesOfFour)
     EXPECT_EQ(strings->at(0).size(), glyf + 40000);
 }
 
+// Glyph data need not follow glyph order; the largest break point in reach
+// counts wherever it stands in the list.
+TEST(Type42Sfnts, GlyphStartsOutOfOrderStillGiveTheLargestBreakPoint)
+{
+    FontBuilder probe = minimalFont(4);
+    probe.add("loca", locaLong({0, 0, 0, 0})).add("glyf", {});
+    const std::size_t glyf = probe.offsetOf("glyf");
+
+    FontBuilder builder = minimalFont(4);
+    builder.add("loca", locaLong({0, 50000, 20000, 30000})).add("glyf", Bytes(100000, 0x44));
+    const auto strings = sfntsStrings(convertQuietly(builder.build()));
+    ASSERT_TRUE(strings);
+    ASSERT_EQ(strings->size(), 2u);
+    EXPECT_EQ(strings->at(0).size(), glyf + 50000);
+}
+
 TEST(Type42Sfnts, UnknownLocaFormatPutsEveryGlyphAtTheStartOfGlyf)
 {
     HeadFields oddLoca;
