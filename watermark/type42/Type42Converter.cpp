@@ -4,6 +4,7 @@
 #include "watermark/type42/Type42Encoding.h"
 #include "watermark/type42/Type42Font.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <cstring>
@@ -82,8 +83,8 @@ void appendHeader(const Type42Font& font, std::string_view postScriptName,
         out += encoding[code];
         out += " put\n";
     }
-    // Programs have always had "readonly def" and the PaintType entry on one
-    // line; stored programs are compared byte for byte, so it stays.
+    // "readonly def" and the PaintType entry share one line: programs have
+    // always been written so, and the output stays byte for byte the same.
     out += "readonly def";
     out += "/PaintType 0 def\n";
     out += "/FontMatrix [1 0 0 1 0 0] def\n";
