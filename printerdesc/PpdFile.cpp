@@ -5,6 +5,7 @@
 // libcups marks its PPD interface deprecated; it is the interface we use, and
 // this file is the only one that calls it.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+#include <cups/cups.h>
 #include <cups/ppd.h>
 
 namespace orvan {
@@ -125,6 +126,17 @@ std::optional<PpdCustomSizeLimits> PpdCustomLimits(ppd_file_t* ppd)
         return std::nullopt;
     return PpdCustomSizeLimits{ppd->custom_min[0], ppd->custom_min[1], ppd->custom_max[0],
                                ppd->custom_max[1]};
+}
+
+std::optional<QString> FetchQueuePPDFile(const QString& queueName, QString* error)
+{
+    const char* path = cupsGetPPD2(CUPS_HTTP_DEFAULT, queueName.toUtf8().constData());
+    if (!path) {
+        if (error)
+            *error = QStringLiteral("the queue %1 has no PPD (%2)").arg(queueName, QString::fromUtf8(cupsLastErrorString()));
+        return std::nullopt;
+    }
+    return QFile::decodeName(path);
 }
 
 } // namespace orvan

@@ -70,4 +70,9 @@ struct PpdCustomSizeLimits
 };
 std::optional<PpdCustomSizeLimits> PpdCustomLimits(ppd_file_t* ppd);
 
+// The PPD of a CUPS queue, fetched from the server into a temporary file the
+// caller owns (and removes); nullopt with the server's reason when the queue
+// has none or the server cannot be reached.
+std::optional<QString> FetchQueuePPDFile(const QString& queueName, QString* error);
+
 } // namespace orvan

@@ -1,0 +1,254 @@
+#include "host/PrintDialog.h"
+
+#include "host/JobSubmission.h"
+#include "settings/TicketFile.h"
+#include "shell/CommandEvent.h"
+#include "shell/PDEShell.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace orvan {
+
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error)
+{
+    if (printer.isSample) {
+        const QString path = pluginFolder + QStringLiteral("/Resources/") + kSamplePpdResource;
+        if (QFileInfo::exists(path))
+            return path;
+        if (error)
+            *error = QStringLiteral("the sample printer's PPD is missing: %1").arg(path);
+        return std::nullopt;
+    }
+    return FetchQueuePPD(printer.queueName, error);
+}
+
+PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
+                         Options options, QWidget* parent)
+    : QDialog(parent), m_session(session), m_plugin(plugin), m_printers(std::move(printers)),
+      m_options(std::move(options)), m_printerPopup(new QComboBox(this)), m_copies(new QSpinBox(this)),
+      m_allPages(new QRadioButton(tr("All"), this)), m_pageRange(new QRadioButton(tr("From:"), this)),
+      m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_paneHolder(new QWidget(this)),
+      m_status(new QLabel(this))
+{
+    setObjectName(QStringLiteral("PrintDialog"));
+    setWindowTitle(m_options.files.isEmpty()
+                       ? tr("Print")
+                       : tr("Print \u201C%1\u201D").arg(QFileInfo(m_options.files.first()).fileName()));
+    m_printerPopup->setObjectName(QStringLiteral("PrinterPopup"));
+    m_copies->setObjectName(QStringLiteral("CopiesField"));
+    m_allPages->setObjectName(QStringLiteral("AllPagesButton"));
+    m_pageRange->setObjectName(QStringLiteral("PageRangeButton"));
+    m_fromPage->setObjectName(QStringLiteral("FromPageField"));
+    m_toPage->setObjectName(QStringLiteral("ToPageField"));
+    m_paneHolder->setObjectName(QStringLiteral("PluginPaneHolder"));
+    m_status->setObjectName(QStringLiteral("StatusLabel"));
+    m_status->setWordWrap(true);
+    m_status->setStyleSheet(QStringLiteral("color: palette(mid);"));
+
+    for (const PrinterEntry& printer : m_printers)
+        m_printerPopup->addItem(printer.displayName);
+    m_copies->setRange(1, 9999);
+    m_fromPage->setRange(1, 99999);
+    m_toPage->setRange(1, 99999);
+    m_toPage->setValue(1);
+    m_allPages->setChecked(true);
+    m_fromPage->setEnabled(false);
+    m_toPage->setEnabled(false);
+    connect(m_pageRange, &QRadioButton::toggled, this, [this](bool on) {
+        m_fromPage->setEnabled(on);
+        m_toPage->setEnabled(on);
+    });
+    connect(m_fromPage, &QSpinBox::valueChanged, this, [this](int value) {
+        if (m_toPage->value() < value)
+            m_toPage->setValue(value);
+    });
+
+    auto* pages = new QHBoxLayout;
+    pages->addWidget(m_allPages);
+    pages->addSpacing(12);
+    pages->addWidget(m_pageRange);
+    pages->addWidget(m_fromPage);
+    pages->addWidget(new QLabel(tr("to:"), this));
+    pages->addWidget(m_toPage);
+    pages->addStretch(1);
+    auto* form = new QFormLayout;
+    form->setLabelAlignment(Qt::AlignRight);
+    form->addRow(tr("Printer:"), m_printerPopup);
+    m_copies->setMinimumWidth(80);
+    auto* copies = new QHBoxLayout;
+    copies->addWidget(m_copies);
+    copies->addStretch(1);
+    form->addRow(tr("Copies:"), copies);
+    form->addRow(tr("Pages:"), pages);
+
+    auto* holderLayout = new QVBoxLayout(m_paneHolder);
+    holderLayout->setContentsMargins(0, 0, 0, 0);
+
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);
+    QPushButton* printButton = buttons->addButton(tr("Print"), QDialogButtonBox::AcceptRole);
+    cancel->setObjectName(QStringLiteral("CancelButton"));
+    printButton->setObjectName(QStringLiteral("PrintButton"));
+    printButton->setDefault(true);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(printButton, &QPushButton::clicked, this, &PrintDialog::print);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(m_paneHolder, 1);
+    layout->addWidget(m_status);
+    layout->addWidget(buttons);
+
+    showTicketInControls();
+    m_printerPopup->setCurrentIndex(m_options.initialPrinter);
+    choosePrinter(m_options.initialPrinter);
+    connect(m_printerPopup, &QComboBox::activated, this, &PrintDialog::choosePrinter);
+}
+
+PrintDialog::~PrintDialog()
+{
+    stopPlugin();
+    if (!m_fetchedPpd.isEmpty())
+        QFile::remove(m_fetchedPpd);
+}
+
+void PrintDialog::showTicketInControls()
+{
+    const Ticket& settings = m_session.printSettings();
+    m_copies->setValue(CopiesFromTicket(settings));
+    const auto [first, last] = PageRangeFromTicket(settings);
+    const bool all = first == 1 && last == kAllPagesLast;
+    m_allPages->setChecked(all);
+    m_pageRange->setChecked(!all);
+    if (!all) {
+        m_fromPage->setValue(first);
+        m_toPage->setValue(std::min(last, m_toPage->maximum()));
+    }
+}
+
+void PrintDialog::writeControlsToTicket()
+{
+    if (m_allPages->isChecked())
+        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), 1, kAllPagesLast);
+    else
+        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), m_fromPage->value(), m_toPage->value());
+}
+
+bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
+{
+    const auto ppd = PpdPathForPrinter(printer, m_plugin.folder(), error);
+    if (!printer.isSample) {
+        if (!m_fetchedPpd.isEmpty())
+            QFile::remove(m_fetchedPpd);
+        m_fetchedPpd = ppd.value_or(QString());
+    }
+    // A queue without a PPD still prints; the panels then show their defaults.
+    m_session.setCurrentPrinter(Printer{printer.queueName, ppd.value_or(QString())});
+    return ppd.has_value();
+}
+
+void PrintDialog::startPlugin()
+{
+    m_pane = new QWidget(m_paneHolder);
+    m_pane->setObjectName(QStringLiteral("PluginPane"));
+    m_paneHolder->layout()->addWidget(m_pane);
+    if (m_plugin.prolog() != kNoError) {
+        fail(tr("The printer features could not be started."));
+        return;
+    }
+    m_pane->setMinimumSize(static_cast<int>(m_plugin.maxWidth()), static_cast<int>(m_plugin.maxHeight()));
+    m_plugin.initialize(m_pane, &m_session);
+    m_plugin.sync(&m_session, true);
+    m_plugin.open();
+    m_pluginRunning = true;
+}
+
+void PrintDialog::stopPlugin()
+{
+    if (!m_pluginRunning)
+        return;
+    m_plugin.close();
+    m_plugin.terminate(kNoError);
+    m_pluginRunning = false;
+    delete m_pane;
+    m_pane = nullptr;
+}
+
+void PrintDialog::choosePrinter(int index)
+{
+    if (index < 0 || index >= static_cast<int>(m_printers.size()) || index == m_currentPrinter)
+        return;
+    // The settings made so far stay in the tickets across the change.
+    if (m_pluginRunning)
+        m_plugin.sync(&m_session, false);
+    stopPlugin();
+    m_currentPrinter = index;
+    QString why;
+    if (!attachPrinter(m_printers[static_cast<std::size_t>(index)], &why))
+        m_status->setText(tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
+    else
+        m_status->clear();
+    startPlugin();
+}
+
+void PrintDialog::fail(const QString& message)
+{
+    m_lastError = message;
+    QMessageBox box(QMessageBox::Warning, tr("Cannot Print"), message, QMessageBox::Ok, this);
+    box.setObjectName(QStringLiteral("PrintErrorBox"));
+    box.exec();
+}
+
+void PrintDialog::print()
+{
+    // The plug-in may refuse OK (a secure print without a passcode, a fax
+    // without recipients); the dialog then stays open as it is.
+    CommandEvent ok(kCommandOK);
+    QCoreApplication::sendEvent(this, &ok);
+    if (ok.consumed())
+        return;
+    writeControlsToTicket();
+    m_plugin.sync(&m_session, false);
+    if (!m_options.saveTicketPath.isEmpty()) {
+        QString why;
+        if (!saveTicketFile(m_options.saveTicketPath, m_session, &why)) {
+            fail(tr("The job's settings could not be saved: %1").arg(why));
+            return;
+        }
+    }
+    const PrinterEntry& printer = m_printers[static_cast<std::size_t>(m_currentPrinter)];
+    if (!m_options.files.isEmpty()) {
+        if (printer.isSample) {
+            fail(tr("The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
+                    "or save the job's settings with --save-ticket."));
+            return;
+        }
+        QString why;
+        const QString title = QFileInfo(m_options.files.first()).fileName();
+        if (SubmitJob(printer.queueName, m_options.files, title, JobOptionsFromSession(m_session), &why) == 0) {
+            fail(tr("The job could not be sent to %1: %2").arg(printer.displayName, why));
+            return;
+        }
+    }
+    accept();
+}
+
+void PrintDialog::done(int result)
+{
+    stopPlugin();
+    QDialog::done(result);
+}
+
+} // namespace orvan

@@ -1,0 +1,75 @@
+// The Print dialog: printer pop-up, copies and pages, the plug-in's pane,
+// Cancel and Print. It owns no job settings itself: everything lives in the
+// print session's tickets, which the plug-in reads and writes on Sync.
+#pragma once
+
+#include "host/PluginHost.h"
+#include "host/PrinterList.h"
+
+#include <QDialog>
+#include <QStringList>
+
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QRadioButton;
+class QSpinBox;
+
+namespace orvan {
+
+class PrintDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    struct Options {
+        QStringList files;
+        QString saveTicketPath; // written on Print when set
+        int initialPrinter = 0; // index into printers
+    };
+
+    PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers, Options options,
+                QWidget* parent = nullptr);
+    ~PrintDialog() override;
+
+    // The message of the last failure to print, for callers and tests.
+    QString lastError() const { return m_lastError; }
+
+protected:
+    void done(int result) override;
+
+private:
+    void choosePrinter(int index);
+    bool attachPrinter(const PrinterEntry& printer, QString* error);
+    void startPlugin();
+    void stopPlugin();
+    void print();
+    void showTicketInControls();
+    void writeControlsToTicket();
+    void fail(const QString& message);
+
+    PrintSession& m_session;
+    PluginHost& m_plugin;
+    std::vector<PrinterEntry> m_printers;
+    Options m_options;
+    QString m_fetchedPpd; // temporary PPD fetched from CUPS, removed on close
+    QString m_lastError;
+    int m_currentPrinter = -1;
+    bool m_pluginRunning = false;
+
+    QComboBox* m_printerPopup;
+    QSpinBox* m_copies;
+    QRadioButton* m_allPages;
+    QRadioButton* m_pageRange;
+    QSpinBox* m_fromPage;
+    QSpinBox* m_toPage;
+    QWidget* m_paneHolder;
+    QWidget* m_pane = nullptr;
+    QLabel* m_status;
+};
+
+// The PPD location of a printer entry: the queue's PPD from CUPS, or the
+// sample printer's PPD in the plug-in's resources.
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error);
+
+} // namespace orvan

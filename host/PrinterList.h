@@ -1,0 +1,32 @@
+// The printers the Print dialog offers: the CUPS queues of this machine, then
+// the bundled sample Orvan printer, which is the default when CUPS has no
+// queue or is not running.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace orvan {
+
+struct PrinterEntry {
+    QString displayName;
+    QString queueName; // empty for the sample printer
+    bool isDefault = false;
+    bool isSample = false;
+};
+
+inline const QString kSamplePrinterName = QStringLiteral("Orvan Meridian 5000 (sample)");
+inline const QString kSamplePpdResource = QStringLiteral("ppd/Orvan-Meridian-5000.ppd");
+
+// CUPS queues (the CUPS default marked) and the sample printer last; the
+// sample printer is marked default when no queue is.
+std::vector<PrinterEntry> ListPrinters();
+// The PPD of a CUPS queue, fetched from the server into a temporary file
+// that the caller owns; nullopt (with the reason) when the queue has none.
+std::optional<QString> FetchQueuePPD(const QString& queueName, QString* error);
+// True when CUPS knows a queue of that name.
+bool QueueExists(const QString& queueName);
+
+} // namespace orvan
