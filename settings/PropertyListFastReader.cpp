@@ -73,8 +73,8 @@ public:
                 break;
             // Only a document type without an internal subset, in its plain form.
             static const QRegularExpression plainDoctype(QStringLiteral(
-                R"(^<!DOCTYPE\s+[A-Za-z_][A-Za-z0-9_.-]*(\s+(PUBLIC\s+("[ \r\na-zA-Z0-9'()+,./:=?;!*#@$_%-]*")"
-                R"(|'[ \r\na-zA-Z0-9()+,./:=?;!*#@$_%-]*')\s+("[^"<&]*"|'[^'<&]*')|SYSTEM\s+("[^"<&]*"|'[^'<&]*')))?\s*>$)"));
+                R"(^<!DOCTYPE[ \t\r\n]+[A-Za-z_][A-Za-z0-9_.-]*([ \t\r\n]+(PUBLIC[ \t\r\n]+("[ \r\na-zA-Z0-9'()+,./:=?;!*#@$_%-]*")"
+                R"(|'[ \r\na-zA-Z0-9()+,./:=?;!*#@$_%-]*')[ \t\r\n]+("[^"<&]*"|'[^'<&]*')|SYSTEM[ \t\r\n]+("[^"<&]*"|'[^'<&]*')))?[ \t\r\n]*>$)"));
             const char* close = find('>');
             if (!close || !isPlainMarkup(m_p, close) ||
                 !plainDoctype.match(QString::fromLatin1(m_p, close + 1 - m_p)).hasMatch())
@@ -137,8 +137,8 @@ private:
         // Only the plain forms; any other declaration is the full reader's
         // to judge.
         static const QRegularExpression plain(QStringLiteral(
-            R"(^\s+version\s*=\s*(["'])1\.0\1(\s+encoding\s*=\s*(["'])(UTF|utf)-8\3)?)"
-            R"((\s+standalone\s*=\s*(["'])(yes|no)\6)?\s*$)"));
+            R"(^[ \t\r\n]+version[ \t\r\n]*=[ \t\r\n]*(["'])1\.0\1([ \t\r\n]+encoding[ \t\r\n]*=[ \t\r\n]*(["'])(UTF|utf)-8\3)?)"
+            R"(([ \t\r\n]+standalone[ \t\r\n]*=[ \t\r\n]*(["'])(yes|no)\6)?[ \t\r\n]*$)"));
         if (!plain.match(QString::fromLatin1(m_p, close - m_p)).hasMatch())
             return false;
         m_p = close + 2;
