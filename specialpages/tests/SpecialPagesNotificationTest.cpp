@@ -91,8 +91,7 @@ TEST(SpecialPagesNotification, OneCautionAlertPerErrorCode)
 
 TEST(SpecialPagesNotification, TextsComeFromTheBundle)
 {
-    const Bundle bundle(QStringLiteral(ORVAN_BINARY_DIR "/specialpages-test-bundle"),
-                        QStringLiteral("en"));
+    const Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en"));
     const auto texts = englishTexts();
     for (const CodeKeys& entry : kCodeKeys) {
         for (const char* key : {entry.title, entry.message}) {
