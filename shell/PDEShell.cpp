@@ -13,6 +13,8 @@ namespace orvan {
 // Tab order: Paper/Output, Image Options, Booklet/Watermark, Advanced. A
 // panel's name stands here once the panel exists in the plug-in.
 const char* const _PanelInterfaces[] = {
+    "GetImageOptionsPanelInterface",
+    "GetAdvancedPanelInterface",
     nullptr,
 };
 

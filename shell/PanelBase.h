@@ -19,6 +19,7 @@ public:
     struct Description {
         QString kind;
         QString title;
+        std::uint32_t creator = kPaneKindCreator;
         std::uint32_t maxWidth = 540;
         std::uint32_t maxHeight = 491;
     };
@@ -72,7 +73,7 @@ Status prolog(PDEContext* context, std::uint32_t* creator, QString* kind, QStrin
     const PanelBase::Description description = panel->describe();
     *context = static_cast<PanelContextBase*>(static_cast<PanelBase*>(panel));
     if (creator)
-        *creator = kPaneKindCreator;
+        *creator = description.creator;
     if (kind)
         *kind = description.kind;
     if (title)

@@ -1,0 +1,217 @@
+#include "imagequality/ImageOptionsPanel.h"
+
+#include "imagequality/PanelText.h"
+#include "printerdesc/PPDAccess.h"
+#include "settings/Bundle.h"
+#include "ui/LocalizedTitles.h"
+#include "ui/PopupMenus.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPixmap>
+#include <QVBoxLayout>
+
+namespace orvan {
+
+namespace {
+
+constexpr int kPictureSize = 64;
+
+QLabel* MakePicture(const QString& objectName, QWidget* parent)
+{
+    auto* picture = new QLabel(parent);
+    picture->setObjectName(objectName);
+    picture->setFixedSize(kPictureSize, kPictureSize);
+    picture->setAlignment(Qt::AlignCenter);
+    return picture;
+}
+
+QLabel* MakeLabel(const Bundle* bundle, const QString& key, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    SetLocalizedStaticText(bundle, key, label);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+// The pane's layout, made when the pane has none.
+QBoxLayout* PaneLayout(QWidget* parent)
+{
+    if (auto* layout = qobject_cast<QBoxLayout*>(parent->layout()))
+        return layout;
+    auto* layout = new QVBoxLayout(parent);
+    layout->setContentsMargins(12, 12, 12, 12);
+    return layout;
+}
+
+const Bundle* ShellBundle()
+{
+    const PDEShellContext* shell = CurrentShellContext();
+    return shell ? shell->bundle : nullptr;
+}
+
+} // namespace
+
+ImageOptionsView::ImageOptionsView(ImageOptionsModel& model, const Bundle* bundle, QWidget* parent)
+    : QWidget(parent), m_model(model), m_bundle(bundle), m_resolution(new QComboBox(this)),
+      m_tonerSaver(new QCheckBox(this)), m_negativeImage(new QCheckBox(this)),
+      m_mirrorImage(new QCheckBox(this)),
+      m_resolutionPicture(MakePicture(QStringLiteral("ResolutionPicture"), this)),
+      m_tonerSaverPicture(MakePicture(QStringLiteral("TonerSaverPicture"), this)),
+      m_invertImagePicture(MakePicture(QStringLiteral("InvertImagePicture"), this))
+{
+    setObjectName(QStringLiteral("ImageOptionsPanel"));
+    m_resolution->setObjectName(QStringLiteral("ResolutionPopup"));
+    m_tonerSaver->setObjectName(QStringLiteral("TonerSaverCheckBox"));
+    m_negativeImage->setObjectName(QStringLiteral("NegativeImageCheckBox"));
+    m_mirrorImage->setObjectName(QStringLiteral("MirrorImageCheckBox"));
+    SetLocalizedControlTitle(bundle, kTonerSaverTitleKey, m_tonerSaver);
+    SetLocalizedControlTitle(bundle, kNegativeImageTitleKey, m_negativeImage);
+    SetLocalizedControlTitle(bundle, kMirrorImageTitleKey, m_mirrorImage);
+    m_resolution->setMinimumWidth(200);
+    m_resolution->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+
+    // Each setting on its own row, its picture beside it.
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(16);
+    grid->setColumnStretch(2, 1);
+
+    QLabel* resolutionLabel = MakeLabel(bundle, kResolutionLabelKey, this);
+    resolutionLabel->setBuddy(m_resolution);
+    grid->addWidget(resolutionLabel, 0, 0);
+    grid->addWidget(m_resolution, 0, 1);
+    grid->addWidget(m_resolutionPicture, 0, 3);
+
+    grid->addWidget(MakeLabel(bundle, kTonerSaverLabelKey, this), 1, 0);
+    grid->addWidget(m_tonerSaver, 1, 1);
+    grid->addWidget(m_tonerSaverPicture, 1, 3);
+
+    auto* invert = new QVBoxLayout;
+    invert->setSpacing(6);
+    invert->addStretch(1);
+    invert->addWidget(m_negativeImage);
+    invert->addWidget(m_mirrorImage);
+    invert->addStretch(1);
+    grid->addLayout(invert, 2, 1);
+    grid->addWidget(m_invertImagePicture, 2, 3);
+    grid->setRowStretch(3, 1);
+
+    PaneLayout(parent)->addWidget(this);
+
+    // activated and toggled-by-click are the user's choices; filling and
+    // showing the model go through setters that emit neither.
+    connect(m_resolution, &QComboBox::activated, this, [this](int index) {
+        m_model.chooseResolution(PopupButtonItemTicketValue(m_resolution, index));
+        showPictures();
+    });
+    connect(m_tonerSaver, &QCheckBox::clicked, this, [this](bool on) {
+        m_model.setTonerSaverOn(on);
+        showPictures();
+    });
+    connect(m_negativeImage, &QCheckBox::clicked, this, [this](bool on) {
+        m_model.setNegativeImage(on);
+        showPictures();
+    });
+    connect(m_mirrorImage, &QCheckBox::clicked, this, [this](bool on) {
+        m_model.setMirrorImage(on);
+        showPictures();
+    });
+
+    reloadMenus();
+}
+
+void ImageOptionsView::reloadMenus()
+{
+    const MenuModel& menu = m_model.resolutionMenu();
+    FillPopupButton(m_resolution, menu, menu.count());
+    m_resolution->setEnabled(!menu.isEmpty());
+    showModel();
+}
+
+void ImageOptionsView::showModel()
+{
+    const QSignalBlocker quiet(m_resolution);
+    // A resolution no item carries (a choice unknown to this panel) shows as
+    // no selection rather than as some other resolution.
+    if (!SetPopupButtonToTicketValue(m_resolution, m_model.resolution()))
+        m_resolution->setCurrentIndex(-1);
+    m_tonerSaver->setChecked(m_model.tonerSaverOn());
+    m_negativeImage->setChecked(m_model.invertImage().negativeImage);
+    m_mirrorImage->setChecked(m_model.invertImage().mirrorImage);
+    showPictures();
+}
+
+InvertImageControls ImageOptionsView::controls() const
+{
+    return InvertImageControls{m_negativeImage != nullptr, m_mirrorImage != nullptr};
+}
+
+void ImageOptionsView::showPictures()
+{
+    showPicture(m_resolutionPicture, m_model.resolutionPicture());
+    showPicture(m_tonerSaverPicture, m_model.tonerSaverPicture());
+    showPicture(m_invertImagePicture, m_model.invertImagePicture());
+}
+
+void ImageOptionsView::showPicture(QLabel* label, const QString& name)
+{
+    const QString path = m_bundle ? m_bundle->resourcePath(QStringLiteral("images/") + name) : QString();
+    label->setPixmap(path.isEmpty() ? QPixmap() : QPixmap(path));
+}
+
+ImageOptionsPanel::ImageOptionsPanel() : ImageOptionsPanel(ShellBundle()) {}
+
+ImageOptionsPanel::ImageOptionsPanel(const Bundle* bundle) : m_bundle(bundle) {}
+
+ImageOptionsPanel::~ImageOptionsPanel()
+{
+    delete m_view;
+}
+
+PanelBase::Description ImageOptionsPanel::describe() const
+{
+    Description description;
+    description.kind = kImageOptionsKind;
+    description.title = PanelText(m_bundle, kImageOptionsTitleKey);
+    description.creator = kImageOptionsCreator;
+    return description;
+}
+
+Status ImageOptionsPanel::initialize(QWidget* parent, PrintSession*)
+{
+    m_model.load(PPDGetCurrent());
+    if (parent)
+        m_view = new ImageOptionsView(m_model, m_bundle, parent);
+    return kNoError;
+}
+
+Status ImageOptionsPanel::sync(PrintSession* session, bool direction)
+{
+    // Without its view the panel has no invert-image controls, so writing
+    // stores both flags as 0: the flags come from the controls' presence.
+    const InvertImageControls controls = m_view ? m_view->controls() : InvertImageControls{};
+    const Status status = m_model.sync(session, direction, controls);
+    if (direction && m_view)
+        m_view->showModel();
+    return status;
+}
+
+Status ImageOptionsPanel::summaryText(PropertyValue* titles, PropertyValue* values)
+{
+    if (!titles || !values)
+        return kBadParameter;
+    m_model.appendSummary(m_bundle, titles, values);
+    return kNoError;
+}
+
+Status ImageOptionsPanel::terminate(Status)
+{
+    delete m_view;
+    return kNoError;
+}
+
+} // namespace orvan
