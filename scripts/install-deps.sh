@@ -7,7 +7,7 @@ packages=(
   build-essential cmake ninja-build pkg-config clang libclang-rt-14-dev
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   libqt6svg6
-  libcups2-dev cups cups-ipp-utils cups-filters
+  libcups2-dev cups cups-client cups-ipp-utils cups-filters dbus-daemon
   libcairo2-dev libharfbuzz-dev libfreetype-dev libfontconfig-dev
   libpoppler-qt6-dev
   googletest libgtest-dev libgmock-dev libbenchmark-dev
