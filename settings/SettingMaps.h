@@ -65,8 +65,8 @@ extern const _SettingMap _SavedJobSaveOptionRadioMap[]; // both rows 0: used by 
 extern const _SettingMap _JobNameMap[];
 extern const _SettingMap _LoginNameMap[];
 
-// The PPD choice maps. They live in their own namespace because the stock
-// tables of the same names (stock/StockTables.h) are a different row type.
+// The PPD choice maps. "PageSize", "MediaType" and "MediaColor" also serve
+// as the stock's size, type and colour tables.
 namespace ppdmaps {
 
 extern const PPDChoiceMap _BannerPageMap[];

@@ -1,31 +1,45 @@
-#include "stock/StockTables.h"
+// The size, type and colour tables a stock's values come from are the
+// printer description's choice maps for "PageSize", "MediaType" and
+// "MediaColor": the stock menus and summaries translate through them.
+#include "printerdesc/PPDAccess.h"
+#include "settings/SettingMaps.h"
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+
 using namespace orvan;
+
+namespace {
+
+std::size_t rowCount(const PPDChoiceMap* table)
+{
+    std::size_t rows = 0;
+    while (table[rows].choice)
+        ++rows;
+    return rows;
+}
+
+} // namespace
 
 TEST(StockTables, RowCountsAndTerminators)
 {
-    EXPECT_EQ(StockTableRowCount(_PageSizeMap), 56u);
-    EXPECT_EQ(StockTableRowCount(_MediaTypeMap), 43u);
-    EXPECT_EQ(StockTableRowCount(_MediaColorMap), 22u);
-    for (auto table : {_PageSizeMap, _MediaTypeMap, _MediaColorMap}) {
-        ASSERT_FALSE(table.empty());
-        EXPECT_EQ(table.back().key, nullptr);
-        EXPECT_EQ(table.size(), StockTableRowCount(table) + 1);
-    }
+    EXPECT_EQ(rowCount(ppdmaps::_PageSizeMap), 56u);
+    EXPECT_EQ(rowCount(ppdmaps::_MediaTypeMap), 43u);
+    EXPECT_EQ(rowCount(ppdmaps::_MediaColorMap), 22u);
 }
 
 TEST(StockTables, DuplicateRowsStayAndLookupTakesTheFirst)
 {
     int threeByFive = 0;
-    for (std::size_t i = 0; i < StockTableRowCount(_PageSizeMap); ++i)
-        threeByFive += std::string_view(_PageSizeMap[i].key) == "3x5";
+    for (const PPDChoiceMap* row = ppdmaps::_PageSizeMap; row->choice; ++row)
+        threeByFive += std::string_view(row->choice) == "3x5";
     EXPECT_EQ(threeByFive, 2);
-    EXPECT_EQ(StockTableValue(_MediaTypeMap, "CardStock"), 12);
-    EXPECT_STREQ(StockTableKey(_MediaTypeMap, 43), "CardStock");
-    EXPECT_EQ(StockTableValue(_PageSizeMap, "Custom"), 75);
-    EXPECT_EQ(StockTableValue(_MediaColorMap, "Clear"), 6);
-    EXPECT_FALSE(StockTableValue(_MediaColorMap, "Mauve"));
-    EXPECT_EQ(StockTableKey(_MediaColorMap, 10), nullptr); // custom colour is not a row
+    EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("MediaType"), QStringLiteral("CardStock")), 12);
+    EXPECT_STREQ(PPDChoiceForTicketValue(QStringLiteral("MediaType"), 43), "CardStock");
+    EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("PageSize"), QStringLiteral("Custom")), 75);
+    EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("MediaColor"), QStringLiteral("Clear")), 6);
+    EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("MediaColor"), QStringLiteral("Mauve")), -1);
+    // The custom colour is no row: it names the stock's customColor string.
+    EXPECT_EQ(PPDChoiceForTicketValue(QStringLiteral("MediaColor"), 10), nullptr);
 }
