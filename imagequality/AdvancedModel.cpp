@@ -33,7 +33,8 @@ void AdvancedModel::load(const Bundle* bundle, ppd_file_t* ppd)
     m_requestOffsetPopup.menu.clear();
     PPDPopulateMenuWithChoices(&m_bannerPopup.menu, ppd, kBannerKeyword, 0, false);
     PPDPopulateMenuWithChoices(&m_requestOffsetPopup.menu, ppd, kRequestOffsetKeyword, 0, false);
-    for (Popup* popup : {&m_bookletOrderPopup, &m_outputOptionsPopup, &m_bannerPopup, &m_requestOffsetPopup})
+    for (Popup* popup :
+         {&m_bookletOrderPopup, &m_outputOptionsPopup, &m_bannerPopup, &m_requestOffsetPopup})
         ShowFirstItem(*popup);
     selectByValue(m_bannerPopup, m_bannerSheet);
     selectByValue(m_requestOffsetPopup, m_requestOffset);
@@ -124,8 +125,8 @@ Status AdvancedModel::sync(PrintSession* session, bool direction)
 
 Status AdvancedModel::syncToTicket(Ticket& ticket) const
 {
-    const Status status =
-        ticket.setItem(kPanelClient, kBookletLayoutOrderKey, PropertyValue::integer(m_bookletImageOrder));
+    const Status status = ticket.setItem(kPanelClient, kBookletLayoutOrderKey,
+                                         PropertyValue::integer(m_bookletImageOrder));
     StoreChoice(ticket, kOutputOptionKeyword, m_outputOption);
     StoreChoice(ticket, kBannerKeyword, m_bannerSheet);
     StoreChoice(ticket, kRequestOffsetKeyword, m_requestOffset);

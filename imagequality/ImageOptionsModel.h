@@ -37,7 +37,8 @@ inline constexpr std::int32_t kTonerSaverOff = 2; // "None"
 inline const QString kResolutionLabelKey = QStringLiteral("Resolution Label");
 inline const QString kTonerSaverLabelKey = QStringLiteral("Toner Saver:");
 inline const QString kTonerSaverTitleKey = QStringLiteral("Conserve Dry Ink");
-inline const QString kNegativeImageTitleKey = QStringLiteral("Invert Image Label");
+inline const QString kInvertImageLabelKey = QStringLiteral("Invert Image Label");
+inline const QString kNegativeImageTitleKey = QStringLiteral("Negative Image Title");
 inline const QString kMirrorImageTitleKey = QStringLiteral("Mirror Image Title");
 
 class ImageOptionsModel

@@ -32,7 +32,9 @@ QLabel* MakeLabel(const Bundle* bundle, const QString& key, QWidget* parent)
 {
     auto* label = new QLabel(parent);
     SetLocalizedStaticText(bundle, key, label);
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
     return label;
 }
 
@@ -73,31 +75,29 @@ ImageOptionsView::ImageOptionsView(ImageOptionsModel& model, const Bundle* bundl
     m_resolution->setMinimumWidth(200);
     m_resolution->setSizeAdjustPolicy(QComboBox::AdjustToContents);
 
-    // Each setting on its own row, its picture beside it.
+    // One section per setting: its picture, then its label above its
+    // controls.
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(16);
+    grid->setContentsMargins(4, 4, 4, 4);
+    grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(20);
     grid->setColumnStretch(2, 1);
-
-    QLabel* resolutionLabel = MakeLabel(bundle, kResolutionLabelKey, this);
-    resolutionLabel->setBuddy(m_resolution);
-    grid->addWidget(resolutionLabel, 0, 0);
-    grid->addWidget(m_resolution, 0, 1);
-    grid->addWidget(m_resolutionPicture, 0, 3);
-
-    grid->addWidget(MakeLabel(bundle, kTonerSaverLabelKey, this), 1, 0);
-    grid->addWidget(m_tonerSaver, 1, 1);
-    grid->addWidget(m_tonerSaverPicture, 1, 3);
-
-    auto* invert = new QVBoxLayout;
-    invert->setSpacing(6);
-    invert->addStretch(1);
-    invert->addWidget(m_negativeImage);
-    invert->addWidget(m_mirrorImage);
-    invert->addStretch(1);
-    grid->addLayout(invert, 2, 1);
-    grid->addWidget(m_invertImagePicture, 2, 3);
+    const auto addSection = [this, grid, bundle](int row, QLabel* picture, const QString& labelKey,
+                                                 std::initializer_list<QWidget*> controls) {
+        auto* section = new QVBoxLayout;
+        section->setSpacing(6);
+        QLabel* label = MakeLabel(bundle, labelKey, this);
+        label->setBuddy(*controls.begin());
+        section->addWidget(label);
+        for (QWidget* control : controls)
+            section->addWidget(control, 0, Qt::AlignLeft);
+        section->addStretch(1);
+        grid->addWidget(picture, row, 0, Qt::AlignTop);
+        grid->addLayout(section, row, 1);
+    };
+    addSection(0, m_resolutionPicture, kResolutionLabelKey, {m_resolution});
+    addSection(1, m_tonerSaverPicture, kTonerSaverLabelKey, {m_tonerSaver});
+    addSection(2, m_invertImagePicture, kInvertImageLabelKey, {m_negativeImage, m_mirrorImage});
     grid->setRowStretch(3, 1);
 
     PaneLayout(parent)->addWidget(this);
@@ -159,7 +159,8 @@ void ImageOptionsView::showPictures()
 
 void ImageOptionsView::showPicture(QLabel* label, const QString& name)
 {
-    const QString path = m_bundle ? m_bundle->resourcePath(QStringLiteral("images/") + name) : QString();
+    const QString path =
+        m_bundle ? m_bundle->resourcePath(QStringLiteral("images/") + name) : QString();
     label->setPixmap(path.isEmpty() ? QPixmap() : QPixmap(path));
 }
 

@@ -17,7 +17,8 @@
 namespace orvan {
 namespace {
 
-const QString kSamplePpd = QStringLiteral(ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd");
+const QString kSamplePpd =
+    QStringLiteral(ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd");
 
 PluginHost& Plugin()
 {

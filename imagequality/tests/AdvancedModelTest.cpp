@@ -57,7 +57,8 @@ TEST_F(AdvancedModelTest, MenusComeFromTheirMapsAndThePpd)
                            QStringLiteral("Left to Right=%1").arg(kQujn)}));
     EXPECT_EQ(texts(kOutputOptionsControlID),
               QStringList({QStringLiteral("Face Down=0"), QStringLiteral("Face Up=1")}));
-    EXPECT_EQ(texts(kBannerSheetControlID), QStringList({QStringLiteral("On=1"), QStringLiteral("Off=0")}));
+    EXPECT_EQ(texts(kBannerSheetControlID),
+              QStringList({QStringLiteral("On=1"), QStringLiteral("Off=0")}));
     EXPECT_EQ(texts(kRequestOffsetControlID),
               QStringList({QStringLiteral("Offset Each Set=1"), QStringLiteral("Off=0")}));
     for (const std::int32_t id : {kBookletImageOrderControlID, kOutputOptionsControlID,
@@ -82,7 +83,8 @@ TEST_F(AdvancedModelTest, ChoosingFaceUpLeavesTheTicketsChoiceAlone)
 {
     choose(kOutputOptionsControlID, 2);
     ASSERT_EQ(model.sync(&session, false), kNoError);
-    EXPECT_FALSE(session.printSettings().ppdDictionary().contains(QStringLiteral("QVOutputOption")));
+    EXPECT_FALSE(
+        session.printSettings().ppdDictionary().contains(QStringLiteral("QVOutputOption")));
 
     SetPpdChoice(session, "QVOutputOption", "False");
     choose(kOutputOptionsControlID, 2);
@@ -122,7 +124,8 @@ TEST_F(AdvancedModelTest, EveryBookletOrderItemWritesQujnAndReadsAsTheFirstItem)
     EXPECT_EQ(shownText(kBookletImageOrderControlID), QStringLiteral("Right to Left"));
 
     // A stored value no item carries is kept as it is and selects nothing new.
-    session.printSettings().setItem(kPanelClient, kBookletLayoutOrderKey, PropertyValue::integer(7));
+    session.printSettings().setItem(kPanelClient, kBookletLayoutOrderKey,
+                                    PropertyValue::integer(7));
     choose(kBookletImageOrderControlID, 2);
     ASSERT_EQ(model.sync(&session, true), kNoError);
     EXPECT_EQ(shown(kBookletImageOrderControlID), 2);

@@ -1,7 +1,7 @@
 // The Advanced panel with its widgets (offscreen): the pop-ups' contents, the
 // user's choices through them, and the about dialog.
-#include "imagequality/AboutDialog.h"
 #include "imagequality/AdvancedPanel.h"
+#include "imagequality/AboutDialog.h"
 #include "imagequality/tests/PanelTestSupport.h"
 #include "settings/Ticket.h"
 
@@ -33,7 +33,10 @@ protected:
         ASSERT_EQ(panel.initialize(pane.get(), &session), kNoError);
     }
 
-    QComboBox* popup(const char* name) const { return pane->findChild<QComboBox*>(QLatin1String(name)); }
+    QComboBox* popup(const char* name) const
+    {
+        return pane->findChild<QComboBox*>(QLatin1String(name));
+    }
     // What a user's pick does: the pop-up shows the item and reports it.
     static void pick(QComboBox* popup, const QString& text)
     {
@@ -52,8 +55,10 @@ protected:
 TEST_F(AdvancedPanelTest, BuildsItsLabelledPopupsAndAboutButton)
 {
     EXPECT_EQ(panel.describe().title, QStringLiteral("Advanced"));
-    const std::pair<const char*, int> popups[] = {
-        {"BookletImageOrderPopup", 2}, {"OutputOptionsPopup", 2}, {"BannerSheetPopup", 2}, {"RequestOffsetPopup", 2}};
+    const std::pair<const char*, int> popups[] = {{"BookletImageOrderPopup", 2},
+                                                  {"OutputOptionsPopup", 2},
+                                                  {"BannerSheetPopup", 2},
+                                                  {"RequestOffsetPopup", 2}};
     for (const auto& [name, count] : popups) {
         QComboBox* box = popup(name);
         ASSERT_NE(box, nullptr) << name;
@@ -150,7 +155,8 @@ TEST(AdvancedPanelHeadless, ReadsAndWritesWithoutWidgets)
     ASSERT_EQ(panel.sync(&session, false), kNoError);
     EXPECT_EQ(PpdChoice(session, "JCLBanner"), QStringLiteral("True"));
     EXPECT_EQ(PpdChoice(session, "Jog"), QStringLiteral("EndOfSet"));
-    EXPECT_EQ(PpdChoice(session, "QVOutputOption"), QStringLiteral("False")); // the PPD default, read as 0
+    EXPECT_EQ(PpdChoice(session, "QVOutputOption"),
+              QStringLiteral("False")); // the PPD default, read as 0
     EXPECT_EQ(session.printSettings().integer(kBookletLayoutOrderKey), kDefaultBookletImageOrder);
 }
 

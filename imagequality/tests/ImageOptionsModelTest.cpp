@@ -91,8 +91,8 @@ TEST(InvertImage, WritingTakesTheFlagsFromThePresenceOfTheControls)
         long mirror;
     };
     const Case cases[] = {
-        {{false, false}, {true, true, true}, 0, 0},   // headless: boxes "on" still write 0
-        {{true, true}, {true, false, false}, 1, 1},   // with controls: boxes "off" still write 1
+        {{false, false}, {true, true, true}, 0, 0}, // headless: boxes "on" still write 0
+        {{true, true}, {true, false, false}, 1, 1}, // with controls: boxes "off" still write 1
         {{true, false}, {true, false, true}, 1, 0},
         {{false, true}, {true, true, false}, 0, 1},
     };
@@ -262,7 +262,8 @@ TEST(ImageOptionsModel, PicturesFollowTheState)
 {
     ImageOptionsModel model;
     const std::pair<std::int32_t, const char*> resolutions[] = {
-        {1, "600"}, {2, "600"}, {3, "1200"}, {4, "1200"}, {5, "600"}, {6, "600"}, {7, "1800"}, {-1, "600"},
+        {1, "600"}, {2, "600"}, {3, "1200"}, {4, "1200"},
+        {5, "600"}, {6, "600"}, {7, "1800"}, {-1, "600"},
     };
     for (const auto& [value, picture] : resolutions) {
         model.chooseResolution(value);
@@ -279,9 +280,10 @@ TEST(ImageOptionsModel, PicturesFollowTheState)
     EXPECT_EQ(model.invertImagePicture(), QStringLiteral("ImageOptions_InvertImage_Mirror.png"));
 
     // Every picture the model names is in the plug-in's bundle.
-    for (const QString& name : {model.resolutionPicture(), model.tonerSaverPicture(),
-                                model.invertImagePicture()})
-        EXPECT_FALSE(testing::PluginBundle().resourcePath(QStringLiteral("images/") + name).isEmpty())
+    for (const QString& name :
+         {model.resolutionPicture(), model.tonerSaverPicture(), model.invertImagePicture()})
+        EXPECT_FALSE(
+            testing::PluginBundle().resourcePath(QStringLiteral("images/") + name).isEmpty())
             << qPrintable(name);
 }
 

@@ -48,12 +48,14 @@ protected:
     QImage picture(const char* objectName) const
     {
         auto* label = pane->findChild<QLabel*>(QLatin1String(objectName));
-        return label ? label->pixmap().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied)
-                     : QImage();
+        return label
+                   ? label->pixmap().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                   : QImage();
     }
     static QImage bundlePicture(const char* name)
     {
-        return QImage(testing::PluginBundle().resourcePath(QStringLiteral("images/") + QLatin1String(name)))
+        return QImage(testing::PluginBundle().resourcePath(QStringLiteral("images/") +
+                                                           QLatin1String(name)))
             .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     }
 

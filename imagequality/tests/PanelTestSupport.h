@@ -58,13 +58,15 @@ inline const Bundle& PluginBundle()
 
 inline QString PpdChoice(const PrintSession& session, const char* keyword)
 {
-    const PropertyValue* choice = session.printSettings().ppdDictionary().find(QLatin1String(keyword));
+    const PropertyValue* choice =
+        session.printSettings().ppdDictionary().find(QLatin1String(keyword));
     return choice ? choice->toString() : QString();
 }
 
 inline void SetPpdChoice(PrintSession& session, const char* keyword, const char* choice)
 {
-    session.printSettings().ppdDictionary().insert(QLatin1String(keyword), QString::fromLatin1(choice));
+    session.printSettings().ppdDictionary().insert(QLatin1String(keyword),
+                                                   QString::fromLatin1(choice));
 }
 
 // The strings of an array value (GetSummaryText's titles or values).

@@ -58,7 +58,8 @@ TEST(ShellWiring, PanelsLoadByNameInTabOrder)
     // the panel's creator.
     void* library = dlopen(ORVAN_PLUGIN_DIR "/OrvanFeatures.so", RTLD_NOW | RTLD_NOLOAD);
     ASSERT_NE(library, nullptr);
-    auto get = reinterpret_cast<PanelInterfaceFunction>(dlsym(library, "GetImageOptionsPanelInterface"));
+    auto get =
+        reinterpret_cast<PanelInterfaceFunction>(dlsym(library, "GetImageOptionsPanelInterface"));
     ASSERT_NE(get, nullptr);
     PDEInterfaceObject* panel = nullptr;
     ASSERT_EQ(get(&panel), kNoError);
@@ -103,7 +104,8 @@ TEST(ShellWiring, TabsNavigationSyncAndSummary)
     EXPECT_EQ(_lastTabIndex(), start % 2 + 1);
     window.findChild<QToolButton*>(QStringLiteral("NextPanelButton"))->click();
     EXPECT_EQ(_lastTabIndex(), start);
-    EXPECT_EQ(container->currentWidget()->isAncestorOf(_lastTabIndex() == 1 ? resolution : banner), true);
+    EXPECT_EQ(container->currentWidget()->isAncestorOf(_lastTabIndex() == 1 ? resolution : banner),
+              true);
 
     PropertyValue titles, values;
     ASSERT_EQ(plugin->summaryText(&titles, &values), kNoError);
@@ -165,10 +167,10 @@ TEST(OrvanPrint, DumpTicketKeepsTheChoicesAndWritesThePanelsItems)
     ASSERT_TRUE(saveTicketFile(ticketPath, in, &why)) << qPrintable(why);
 
     int exitCode = -1;
-    const QByteArray output = RunOrvanPrint(
-        {QStringLiteral("--dump-ticket"), QStringLiteral("--ticket"), ticketPath, QStringLiteral("--ppd"),
-         testing::SamplePpdPath()},
-        &exitCode);
+    const QByteArray output =
+        RunOrvanPrint({QStringLiteral("--dump-ticket"), QStringLiteral("--ticket"), ticketPath,
+                       QStringLiteral("--ppd"), testing::SamplePpdPath()},
+                      &exitCode);
     ASSERT_EQ(exitCode, 0);
     PropertyListError error;
     const auto list = readPropertyList(output, &error);
@@ -198,13 +200,14 @@ TEST(OrvanPrint, DumpTicketKeepsTheChoicesAndWritesThePanelsItems)
     // A stored 'Qujn' comes back as 'Qujn'.
     in.printSettings().setItem(kPanelClient, kBookletLayoutOrderKey, PropertyValue::integer(kQujn));
     ASSERT_TRUE(saveTicketFile(ticketPath, in, &why)) << qPrintable(why);
-    const QByteArray second = RunOrvanPrint(
-        {QStringLiteral("--dump-ticket"), QStringLiteral("--ticket"), ticketPath, QStringLiteral("--ppd"),
-         testing::SamplePpdPath()},
-        &exitCode);
+    const QByteArray second =
+        RunOrvanPrint({QStringLiteral("--dump-ticket"), QStringLiteral("--ticket"), ticketPath,
+                       QStringLiteral("--ppd"), testing::SamplePpdPath()},
+                      &exitCode);
     ASSERT_EQ(exitCode, 0);
     PrintSession again;
-    ASSERT_TRUE(sessionFromPropertyList(readPropertyList(second).value_or(PropertyValue()), again, &why));
+    ASSERT_TRUE(
+        sessionFromPropertyList(readPropertyList(second).value_or(PropertyValue()), again, &why));
     EXPECT_EQ(again.printSettings().integer(kBookletLayoutOrderKey), kQujn);
 }
 
@@ -215,8 +218,8 @@ TEST(OrvanPrint, ScreenshotsOfBothPanels)
     for (const int tab : {1, 2}) {
         const QString path = folder.filePath(QStringLiteral("tab%1.png").arg(tab));
         int exitCode = -1;
-        RunOrvanPrint({QStringLiteral("--screenshot"), path, QStringLiteral("--tab"), QString::number(tab),
-                       QStringLiteral("--ppd"), testing::SamplePpdPath()},
+        RunOrvanPrint({QStringLiteral("--screenshot"), path, QStringLiteral("--tab"),
+                       QString::number(tab), QStringLiteral("--ppd"), testing::SamplePpdPath()},
                       &exitCode);
         EXPECT_EQ(exitCode, 0) << tab;
         const QImage image(path);

@@ -120,8 +120,10 @@ Draw Letter(bool mirrored)
             const double x1 = kSheet.right() - 11;
             p.setPen(QPen(kAccent, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
             p.drawLine(QPointF(x0, y), QPointF(x1, y));
-            p.drawPolyline(QPolygonF({QPointF(x0 + 4, y - 4), QPointF(x0, y), QPointF(x0 + 4, y + 4)}));
-            p.drawPolyline(QPolygonF({QPointF(x1 - 4, y - 4), QPointF(x1, y), QPointF(x1 - 4, y + 4)}));
+            p.drawPolyline(
+                QPolygonF({QPointF(x0 + 4, y - 4), QPointF(x0, y), QPointF(x0 + 4, y + 4)}));
+            p.drawPolyline(
+                QPolygonF({QPointF(x1 - 4, y - 4), QPointF(x1, y), QPointF(x1 - 4, y + 4)}));
         }
     };
 }

@@ -21,6 +21,10 @@
     </message>
     <message>
         <source>Invert Image Label</source>
+        <translation>Invert Image:</translation>
+    </message>
+    <message>
+        <source>Negative Image Title</source>
         <translation>Negative Image</translation>
     </message>
     <message>
