@@ -83,7 +83,9 @@ ShellPane::~ShellPane()
 {
     if (m_window)
         m_window->removeEventFilter(this);
-    if (m_context && m_context->view == this)
+    // The host deletes the pane after Terminate has freed the context; only
+    // a context that is still the live one may be touched.
+    if (m_context && m_context == CurrentShellContext() && m_context->view == this)
         m_context->view = nullptr;
 }
 

@@ -27,6 +27,11 @@ struct ReadCase
     bool expectMirror;
 };
 
+void PrintTo(const ReadCase& c, std::ostream* os)
+{
+    *os << c.name;
+}
+
 class InvertImageRead : public ::testing::TestWithParam<ReadCase>
 {
 };
