@@ -23,6 +23,8 @@ namespace orvan {
 
 std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error)
 {
+    if (!printer.ppdFile.isEmpty())
+        return printer.ppdFile;
     if (printer.isSample) {
         const QString path = pluginFolder + QStringLiteral("/Resources/") + kSamplePpdResource;
         if (QFileInfo::exists(path))

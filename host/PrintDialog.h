@@ -68,8 +68,8 @@ private:
     QLabel* m_status;
 };
 
-// The PPD location of a printer entry: the queue's PPD from CUPS, or the
-// sample printer's PPD in the plug-in's resources.
+// The PPD location of a printer entry: its own PPD file when it has one, the
+// queue's PPD from CUPS, or the sample printer's PPD in the plug-in's resources.
 std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error);
 
 } // namespace orvan

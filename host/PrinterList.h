@@ -13,6 +13,7 @@ namespace orvan {
 struct PrinterEntry {
     QString displayName;
     QString queueName; // empty for the sample printer
+    QString ppdFile;   // a PPD file given without a queue; empty otherwise
     bool isDefault = false;
     bool isSample = false;
 };

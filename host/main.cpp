@@ -9,6 +9,7 @@
 #include "ui/AlertBox.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QPixmap>
 #include <QTabBar>
@@ -47,6 +48,7 @@ std::optional<int> choosePrinter(const HostCommandLine& line, std::vector<Printe
         PrinterEntry entry;
         entry.displayName = QFileInfo(line.ppdFile).completeBaseName();
         entry.isSample = true; // no queue behind it
+        entry.ppdFile = QFileInfo(line.ppdFile).absoluteFilePath();
         printers.insert(printers.begin(), entry);
         session.setCurrentPrinter(Printer{QString(), QFileInfo(line.ppdFile).absoluteFilePath()});
         return 0;
@@ -63,6 +65,16 @@ std::optional<int> choosePrinter(const HostCommandLine& line, std::vector<Printe
             return static_cast<int>(i);
     return static_cast<int>(printers.size()) - 1;
 }
+
+// A temporary file of this run, removed when the run ends.
+struct TemporaryFile {
+    QString path;
+    ~TemporaryFile()
+    {
+        if (!path.isEmpty())
+            QFile::remove(path);
+    }
+};
 
 // The headless dialog: every operation the Print dialog runs, without a pane,
 // then the tickets on standard output.
@@ -128,9 +140,12 @@ int main(int argc, char** argv)
     if (!chosen)
         return usageError(why);
     const PrinterEntry& printer = printers[static_cast<std::size_t>(*chosen)];
+    TemporaryFile fetchedPpd; // a queue's PPD, fetched for this run
     if (line->ppdFile.isEmpty()) {
         QString ppdWhy;
         const auto ppd = PpdPathForPrinter(printer, plugin->folder(), &ppdWhy);
+        if (ppd && !printer.queueName.isEmpty())
+            fetchedPpd.path = *ppd;
         session.setCurrentPrinter(Printer{printer.queueName, ppd.value_or(QString())});
         if (!ppd)
             std::fprintf(stderr, "orvan-print: %s; the printer's defaults are used\n", ppdWhy.toLocal8Bit().constData());

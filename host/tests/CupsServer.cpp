@@ -25,11 +25,13 @@ constexpr int kPortAttempts = 4;
 constexpr auto kStopTimeout = std::chrono::seconds(5);
 constexpr auto kPollInterval = std::chrono::milliseconds(50);
 
-struct HttpCloser {
+struct HttpCloser
+{
     void operator()(http_t* http) const { httpClose(http); }
 };
 using HttpConnection = std::unique_ptr<http_t, HttpCloser>;
-struct IppDeleter {
+struct IppDeleter
+{
     void operator()(ipp_t* ipp) const { ippDelete(ipp); }
 };
 using IppMessage = std::unique_ptr<ipp_t, IppDeleter>;
@@ -51,7 +53,8 @@ void stopProcess(QProcess& process)
     if (process.state() == QProcess::NotRunning)
         return;
     process.terminate();
-    if (!process.waitForFinished(static_cast<int>(std::chrono::milliseconds(kStopTimeout).count()))) {
+    if (!process.waitForFinished(
+            static_cast<int>(std::chrono::milliseconds(kStopTimeout).count()))) {
         process.kill();
         process.waitForFinished(2000);
     }
@@ -75,17 +78,20 @@ std::optional<JobStatus> QueryJob(int port, const QString& uri, int jobId)
         return std::nullopt;
     ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
     const QByteArray uriText = uri.toUtf8();
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, jobId ? "printer-uri" : "job-uri", nullptr,
-                 uriText.constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, jobId ? "printer-uri" : "job-uri",
+                 nullptr, uriText.constData());
     if (jobId)
         ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "all");
     char resource[256];
     char scheme[32], user[64], host[256];
     int uriPort = 0;
-    if (httpSeparateURI(HTTP_URI_CODING_ALL, uriText.constData(), scheme, sizeof scheme, user, sizeof user, host,
-                        sizeof host, &uriPort, resource, sizeof resource) < HTTP_URI_STATUS_OK)
+    if (httpSeparateURI(HTTP_URI_CODING_ALL, uriText.constData(), scheme, sizeof scheme, user,
+                        sizeof user, host, sizeof host, &uriPort, resource,
+                        sizeof resource) < HTTP_URI_STATUS_OK)
         qstrcpy(resource, "/");
     IppMessage response(cupsDoRequest(http.get(), request, jobId ? resource : "/"));
     if (!response || ippGetStatusCode(response.get()) > IPP_STATUS_OK_CONFLICTING)
@@ -151,8 +157,8 @@ QString CupsServer::daemonPath()
     for (const char* candidate : {"/usr/sbin/cupsd", "/usr/local/sbin/cupsd"})
         if (QFileInfo(QString::fromLatin1(candidate)).isExecutable())
             return QString::fromLatin1(candidate);
-    return QStandardPaths::findExecutable(QStringLiteral("cupsd"),
-                                          {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin")});
+    return QStandardPaths::findExecutable(
+        QStringLiteral("cupsd"), {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin")});
 }
 
 std::unique_ptr<CupsServer> CupsServer::start(QString* error)
@@ -219,58 +225,57 @@ bool CupsServer::writeConfiguration(QString* error) const
     chmod(QFile::encodeName(root + QStringLiteral("/tmp")).constData(), 01777);
 
     // ORVAN_TEST_CUPSD_LOG_LEVEL=debug when a test needs the whole story.
-    const QString logLevel = qEnvironmentVariable("ORVAN_TEST_CUPSD_LOG_LEVEL", QStringLiteral("warn"));
-    const QByteArray daemonConf = QStringLiteral(
-        "LogLevel %2\n"
-        "Listen 127.0.0.1:%1\n"
-        "Browsing No\n"
-        "BrowseLocalProtocols none\n"
-        "DefaultAuthType None\n"
-        "WebInterface No\n"
-        "DefaultShared No\n"
-        "PreserveJobHistory Yes\n"
-        "<Location />\n"
-        "  Order allow,deny\n"
-        "  Allow from 127.0.0.1\n"
-        "</Location>\n"
-        "<Location /admin>\n"
-        "  Order allow,deny\n"
-        "  Allow from 127.0.0.1\n"
-        "</Location>\n"
-        "<Policy default>\n"
-        "  JobPrivateAccess all\n"
-        "  JobPrivateValues none\n"
-        "  SubscriptionPrivateAccess all\n"
-        "  SubscriptionPrivateValues none\n"
-        "  <Limit All>\n"
-        "    AuthType None\n"
-        "    Order deny,allow\n"
-        "  </Limit>\n"
-        "</Policy>\n")
-                                         .arg(m_port)
-                                         .arg(logLevel)
-                                         .toUtf8();
+    const QString logLevel =
+        qEnvironmentVariable("ORVAN_TEST_CUPSD_LOG_LEVEL", QStringLiteral("warn"));
+    const QByteArray daemonConf = QStringLiteral("LogLevel %2\n"
+                                                 "Listen 127.0.0.1:%1\n"
+                                                 "Browsing No\n"
+                                                 "BrowseLocalProtocols none\n"
+                                                 "DefaultAuthType None\n"
+                                                 "WebInterface No\n"
+                                                 "DefaultShared No\n"
+                                                 "PreserveJobHistory Yes\n"
+                                                 "<Location />\n"
+                                                 "  Order allow,deny\n"
+                                                 "  Allow from 127.0.0.1\n"
+                                                 "</Location>\n"
+                                                 "<Location /admin>\n"
+                                                 "  Order allow,deny\n"
+                                                 "  Allow from 127.0.0.1\n"
+                                                 "</Location>\n"
+                                                 "<Policy default>\n"
+                                                 "  JobPrivateAccess all\n"
+                                                 "  JobPrivateValues none\n"
+                                                 "  SubscriptionPrivateAccess all\n"
+                                                 "  SubscriptionPrivateValues none\n"
+                                                 "  <Limit All>\n"
+                                                 "    AuthType None\n"
+                                                 "    Order deny,allow\n"
+                                                 "  </Limit>\n"
+                                                 "</Policy>\n")
+                                      .arg(m_port)
+                                      .arg(logLevel)
+                                      .toUtf8();
     // As root, cupsd runs filters as User and refuses root for it; as any
     // other user it runs everything as that user and ignores User and Group.
     QString accounts;
     if (geteuid() == 0)
         accounts = QStringLiteral("User lp\nGroup lp\nSystemGroup root\n");
-    const QByteArray filesConf = QStringLiteral(
-        "ServerRoot %1/conf\n"
-        "RequestRoot %1/spool\n"
-        "CacheDir %1/cache\n"
-        "StateDir %1/state\n"
-        "TempDir %1/tmp\n"
-        "DataDir /usr/share/cups\n"
-        "ServerBin /usr/lib/cups\n"
-        "DocumentRoot /usr/share/cups/doc-root\n"
-        "AccessLog %1/log/access_log\n"
-        "ErrorLog %1/log/error_log\n"
-        "PageLog %1/log/page_log\n"
-        "FileDevice Yes\n"
-        "%2")
-                                        .arg(root, accounts)
-                                        .toUtf8();
+    const QByteArray filesConf = QStringLiteral("ServerRoot %1/conf\n"
+                                                "RequestRoot %1/spool\n"
+                                                "CacheDir %1/cache\n"
+                                                "StateDir %1/state\n"
+                                                "TempDir %1/tmp\n"
+                                                "DataDir /usr/share/cups\n"
+                                                "ServerBin /usr/lib/cups\n"
+                                                "DocumentRoot /usr/share/cups/doc-root\n"
+                                                "AccessLog %1/log/access_log\n"
+                                                "ErrorLog %1/log/error_log\n"
+                                                "PageLog %1/log/page_log\n"
+                                                "FileDevice Yes\n"
+                                                "%2")
+                                     .arg(root, accounts)
+                                     .toUtf8();
     return writeFile(root + QStringLiteral("/conf/cupsd.conf"), daemonConf, error) &&
            writeFile(root + QStringLiteral("/conf/cups-files.conf"), filesConf, error);
 }
@@ -279,8 +284,9 @@ bool CupsServer::launch(QString* error)
 {
     const QString conf = folder() + QStringLiteral("/conf");
     m_daemon.setProgram(daemonPath());
-    m_daemon.setArguments({QStringLiteral("-f"), QStringLiteral("-c"), conf + QStringLiteral("/cupsd.conf"),
-                           QStringLiteral("-s"), conf + QStringLiteral("/cups-files.conf")});
+    m_daemon.setArguments({QStringLiteral("-f"), QStringLiteral("-c"),
+                           conf + QStringLiteral("/cupsd.conf"), QStringLiteral("-s"),
+                           conf + QStringLiteral("/cups-files.conf")});
     m_daemon.setProcessChannelMode(QProcess::MergedChannels);
     m_daemon.setChildProcessModifier(dieWithParent);
     m_daemon.start();
@@ -293,7 +299,8 @@ bool CupsServer::launch(QString* error)
         if (m_daemon.state() == QProcess::NotRunning) {
             *error = QStringLiteral("cupsd exited with status %1: %2 %3")
                          .arg(m_daemon.exitCode())
-                         .arg(QString::fromLocal8Bit(m_daemon.readAll()).trimmed(), errorLog().trimmed());
+                         .arg(QString::fromLocal8Bit(m_daemon.readAll()).trimmed(),
+                              errorLog().trimmed());
             return false;
         }
         if (answers())
@@ -331,10 +338,11 @@ bool CupsServer::addFileQueue(const QString& name, const QString& ppd, QString* 
     return addQueue(name, QStringLiteral("file://") + outputFile(name), ppd, true, error);
 }
 
-bool CupsServer::addQueue(const QString& name, const QString& deviceUri, const QString& ppd, bool enabled,
-                          QString* error)
+bool CupsServer::addQueue(const QString& name, const QString& deviceUri, const QString& ppd,
+                          bool enabled, QString* error)
 {
-    QStringList arguments{QStringLiteral("-h"), address(), QStringLiteral("-p"), name, QStringLiteral("-v"), deviceUri};
+    QStringList arguments{QStringLiteral("-h"), address(), QStringLiteral("-p"), name,
+                          QStringLiteral("-v"), deviceUri};
     if (enabled)
         arguments << QStringLiteral("-E");
     if (!ppd.isEmpty())
@@ -384,7 +392,8 @@ bool IppEveryWherePrinter::startBus(QString* error)
 {
     const QString socket = m_root.path() + QStringLiteral("/bus");
     m_bus.setProgram(QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")));
-    m_bus.setArguments({QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1"),
+    m_bus.setArguments({QStringLiteral("--session"), QStringLiteral("--nofork"),
+                        QStringLiteral("--print-address=1"),
                         QStringLiteral("--address=unix:path=") + socket});
     m_bus.setProcessChannelMode(QProcess::SeparateChannels);
     m_bus.setChildProcessModifier(dieWithParent);
@@ -409,7 +418,8 @@ bool IppEveryWherePrinter::startBus(QString* error)
     return true;
 }
 
-std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString& name, QString* error)
+std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString& name,
+                                                                  QString* error)
 {
     std::unique_ptr<IppEveryWherePrinter> printer(new IppEveryWherePrinter);
     if (!printer->m_root.isValid()) {
@@ -430,12 +440,13 @@ std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString&
         // -n localhost -r off: no DNS-SD announcement, listen on loopback;
         // -c: a print command that returns at once (without one the
         // simulator takes seconds per job); -k keeps each document.
-        process.setArguments({QStringLiteral("-p"), QString::number(printer->m_port), QStringLiteral("-n"),
-                              QStringLiteral("localhost"), QStringLiteral("-r"), QStringLiteral("off"),
-                              QStringLiteral("-d"), spool, QStringLiteral("-k"), QStringLiteral("-c"),
-                              QStringLiteral("/bin/true"), QStringLiteral("-f"),
-                              QStringLiteral("application/pdf,application/postscript,application/octet-stream"),
-                              name});
+        process.setArguments(
+            {QStringLiteral("-p"), QString::number(printer->m_port), QStringLiteral("-n"),
+             QStringLiteral("localhost"), QStringLiteral("-r"), QStringLiteral("off"),
+             QStringLiteral("-d"), spool, QStringLiteral("-k"), QStringLiteral("-c"),
+             QStringLiteral("/bin/true"), QStringLiteral("-f"),
+             QStringLiteral("application/pdf,application/postscript,application/octet-stream"),
+             name});
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.setChildProcessModifier(dieWithParent);
@@ -445,7 +456,8 @@ std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString&
             return nullptr;
         }
         const auto deadline = std::chrono::steady_clock::now() + kServerStartTimeout;
-        while (std::chrono::steady_clock::now() < deadline && process.state() == QProcess::Running) {
+        while (std::chrono::steady_clock::now() < deadline &&
+               process.state() == QProcess::Running) {
             if (HttpConnection http = connectTo(printer->m_port)) {
                 ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
                 ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
@@ -479,7 +491,8 @@ QString IppEveryWherePrinter::uri() const
 QStringList IppEveryWherePrinter::receivedDocuments() const
 {
     QStringList documents;
-    for (const QFileInfo& entry : QDir(m_root.path() + QStringLiteral("/spool")).entryInfoList(QDir::Files))
+    for (const QFileInfo& entry :
+         QDir(m_root.path() + QStringLiteral("/spool")).entryInfoList(QDir::Files))
         if (entry.size() > 0)
             documents << entry.absoluteFilePath();
     return documents;

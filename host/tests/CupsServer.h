@@ -23,7 +23,8 @@ inline constexpr auto kJobTimeout = std::chrono::seconds(20);
 
 // A job as the server reports it: its IPP job-state (3 pending .. 9
 // completed) and every job attribute as text (ippAttributeString).
-struct JobStatus {
+struct JobStatus
+{
     int state = 0;
     QMap<QString, QString> attributes;
 
@@ -54,17 +55,20 @@ public:
     QString errorLog() const;
 
     // Adds an enabled queue that accepts jobs and writes their output to
-    // outputFile(name); ppd may be empty (a raw queue).
+    // outputFile(name). The output is the last filter's, so the queue needs a
+    // PPD: a raw queue on a file device writes nothing.
     bool addFileQueue(const QString& name, const QString& ppd, QString* error);
     // Adds a queue on any device URI; enabled says whether it is started and
     // accepts jobs, or is left stopped and rejecting as lpadmin makes it.
-    bool addQueue(const QString& name, const QString& deviceUri, const QString& ppd, bool enabled, QString* error);
+    bool addQueue(const QString& name, const QString& deviceUri, const QString& ppd, bool enabled,
+                  QString* error);
     QString outputFile(const QString& queue) const;
 
     // The job's status and attributes; nullopt when the server does not know it.
     std::optional<JobStatus> job(int jobId) const;
     // Polls the job until it finishes or the timeout passes; the last status seen.
-    std::optional<JobStatus> waitForJob(int jobId, std::chrono::milliseconds timeout = kJobTimeout) const;
+    std::optional<JobStatus> waitForJob(int jobId,
+                                        std::chrono::milliseconds timeout = kJobTimeout) const;
 
 private:
     CupsServer() = default;

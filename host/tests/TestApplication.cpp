@@ -1,0 +1,39 @@
+// One application object for the whole test program: QProcess and the
+// plug-in's Qt objects want one. Widget tests get a QApplication on the
+// offscreen platform, the others a QCoreApplication.
+#ifdef ORVAN_TEST_APPLICATION_CORE
+#include <QCoreApplication>
+using TestApplication = QCoreApplication;
+#else
+#include <QApplication>
+using TestApplication = QApplication;
+#endif
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+class TestApplicationEnvironment : public ::testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        m_application = std::make_unique<TestApplication>(m_argc, m_argv);
+    }
+    void TearDown() override { m_application.reset(); }
+
+private:
+    int m_argc = 1;
+    char m_name[16] = "host_tests";
+    char* m_argv[2] = {m_name, nullptr};
+    std::unique_ptr<TestApplication> m_application;
+};
+
+[[maybe_unused]] ::testing::Environment* const environment =
+    ::testing::AddGlobalTestEnvironment(new TestApplicationEnvironment);
+
+} // namespace
