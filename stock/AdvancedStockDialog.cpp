@@ -68,19 +68,19 @@ AdvancedStockDialog::AdvancedStockDialog(const Bundle* bundle, const Stock& stoc
     setWindowModality(Qt::ApplicationModal);
 
     const AdvancedStockValues values = AdvancedStockValuesOf(stock);
-    const QString unsetText = LocalizedStockText(
-        bundle, context == JobContext::Job ? QStringLiteral("PrinterDefault")
-                                           : QStringLiteral("UseJobSetting"));
+    const QString unsetText =
+        LocalizedStockText(bundle, context == JobContext::Job ? QStringLiteral("PrinterDefault")
+                                                              : QStringLiteral("UseJobSetting"));
     const auto label = [bundle](const char* key) {
         return LocalizedStockText(bundle, QString::fromLatin1(key));
     };
 
-    m_punched = attributePopup(bundle, _StockPunchedMap, context, values.punched, "StockPunched",
-                               this);
+    m_punched =
+        attributePopup(bundle, _StockPunchedMap, context, values.punched, "StockPunched", this);
     m_colorName = textField(values.colorName, kMaximumNameLength, "StockColorName", this);
     m_typeName = textField(values.typeName, kMaximumNameLength, "StockTypeName", this);
-    m_tabCount = countField(values.tabCount, kMaximumTabCount, label("StockNoTabs"),
-                            "StockTabCount", this);
+    m_tabCount =
+        countField(values.tabCount, kMaximumTabCount, label("StockNoTabs"), "StockTabCount", this);
     m_description = textField(values.description, kMaximumNameLength, "StockDescription", this);
     m_comment = textField(values.comment, kMaximumCommentLength, "StockComment", this);
 

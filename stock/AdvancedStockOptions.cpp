@@ -81,8 +81,7 @@ AdvancedStockValues AdvancedStockValuesOf(const Stock& stock)
     return values;
 }
 
-void ApplyAdvancedStockValues(Stock& stock, const AdvancedStockValues& values,
-                              JobContext context)
+void ApplyAdvancedStockValues(Stock& stock, const AdvancedStockValues& values, JobContext context)
 {
     const bool job = context == JobContext::Job;
     stock.setWeight(values.weight);

@@ -55,8 +55,7 @@ AdvancedStockValues AdvancedStockValuesOf(const Stock& stock);
 // Writes the values into the stock. Emptying a name that the colour or type
 // used falls back to White / Standard for the job and to unset (inherited)
 // for a special page.
-void ApplyAdvancedStockValues(Stock& stock, const AdvancedStockValues& values,
-                              JobContext context);
+void ApplyAdvancedStockValues(Stock& stock, const AdvancedStockValues& values, JobContext context);
 
 // True for the types whose summary shows a tab count.
 bool IsTabMediaType(std::int32_t type);

@@ -93,9 +93,10 @@ CustomPaperSize InitialCustomPaperSize(std::int32_t width, std::int32_t length,
         width = 2159;
         length = 2794;
     }
-    return {std::clamp(width, limits.minimumWidth, std::max(limits.minimumWidth, limits.maximumWidth)),
-            std::clamp(length, limits.minimumLength,
-                       std::max(limits.minimumLength, limits.maximumLength))};
+    return {
+        std::clamp(width, limits.minimumWidth, std::max(limits.minimumWidth, limits.maximumWidth)),
+        std::clamp(length, limits.minimumLength,
+                   std::max(limits.minimumLength, limits.maximumLength))};
 }
 
 } // namespace orvan

@@ -65,8 +65,7 @@ CustomSizeDialog::CustomSizeDialog(const Bundle* bundle, std::int32_t width, std
                    m_widthField);
     fields->addRow(LocalizedStockText(bundle, QStringLiteral("CustomSizeLengthLabel")),
                    m_lengthField);
-    fields->addRow(LocalizedStockText(bundle, QStringLiteral("CustomSizeUnitsLabel")),
-                   m_unitPopup);
+    fields->addRow(LocalizedStockText(bundle, QStringLiteral("CustomSizeUnitsLabel")), m_unitPopup);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));

@@ -40,7 +40,8 @@ Status ShowStockSummary(const Bundle* bundle, QPlainTextEdit* view, const Stock*
 {
     if (!bundle || !view)
         return kBadParameter;
-    UpdateSummaryTextView(view, stock ? StockSummaryText(bundle, stock, context) : QString(u""));
+    UpdateSummaryTextView(view,
+                          stock ? StockSummaryText(bundle, stock, context) : QStringLiteral(""));
     return kNoError;
 }
 

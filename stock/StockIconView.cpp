@@ -17,15 +17,15 @@ QImage RenderStockIcon(const Bundle* bundle, const QStringList& imageNames, QSiz
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     for (const QString& name : imageNames) {
         const QString path = bundle ? bundle->resourcePath(StockIconImagePath(name)) : QString();
-        const QImage image(path);
+        const QImage image = path.isEmpty() ? QImage() : QImage(path);
         if (image.isNull()) {
             std::fprintf(stderr, "DEBUG: stock image %s not found\n", qPrintable(name));
             continue;
         }
         const QSize scaled = image.size().scaled(size, Qt::KeepAspectRatio);
-        const QRect target(QPoint((size.width() - scaled.width()) / 2,
-                                  (size.height() - scaled.height()) / 2),
-                           scaled);
+        const QRect target(
+            QPoint((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2),
+            scaled);
         painter.drawImage(target, image);
     }
     return canvas;

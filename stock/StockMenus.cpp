@@ -21,8 +21,8 @@ int populateChoiceMenu(MenuModel& menu, const Bundle* bundle, JobContext context
     menu.clear();
     const bool special = IsSpecialPageContext(context);
     if (special)
-        menu.append({LocalizedStockText(bundle, QStringLiteral("UseJobSetting")), command,
-                     kUnset, false});
+        menu.append(
+            {LocalizedStockText(bundle, QStringLiteral("UseJobSetting")), command, kUnset, false});
     for (const MenuItem& item : choices.items()) {
         if (special && droppedInSpecialPages != kNoDroppedValue &&
             item.referenceValue == droppedInSpecialPages)
@@ -95,8 +95,7 @@ void PopulateStockMenu(StockMenu& menu, const Bundle* bundle, JobContext context
         const QString name =
             CopyLocalizedStringForInstalledFeatureFromPlugin(kPostPrintInserterFeature, bundle)
                 .value_or(kStringNotFound);
-        menu.push_back(
-            {{name, kStockSourceCommand, kInstalledFeatureSource, false}, std::nullopt});
+        menu.push_back({{name, kStockSourceCommand, kInstalledFeatureSource, false}, std::nullopt});
     }
 }
 

@@ -78,8 +78,8 @@ QString GenerateStockSummary(const Bundle* bundle, JobContext context, const Sto
                 items << kDash + typeText(bundle, stock);
         }
     } else if (stock.source() == kInstalledFeatureSource) {
-        items << kDash + CopyLocalizedStringForInstalledFeatureFromPlugin(
-                             kPostPrintInserterFeature, bundle)
+        items << kDash + CopyLocalizedStringForInstalledFeatureFromPlugin(kPostPrintInserterFeature,
+                                                                          bundle)
                              .value_or(kStringNotFound);
     }
     return items.join(separator);
@@ -93,7 +93,7 @@ QString StockSummaryText(const Bundle* bundle, const Stock* stock, JobContext co
     if (!summary.isEmpty())
         return summary;
     return LocalizedStockText(bundle, context == JobContext::Job ? QStringLiteral("PrinterDefault")
-                                                                  : QStringLiteral("UseJobSetting"));
+                                                                 : QStringLiteral("UseJobSetting"));
 }
 
 } // namespace orvan

@@ -64,7 +64,10 @@ INSTANTIATE_TEST_SUITE_P(
                  2,
                  {"Paper_Plain-Green.gif", "Paper_Overlay-Recycled.gif",
                   "Paper_Overlay-HolePunched.gif"}},
-        IconCase{"PrepunchedType", 11, 12, kUnset,
+        IconCase{"PrepunchedType",
+                 11,
+                 12,
+                 kUnset,
                  {"Paper_Plain-Gray.gif", "Paper_Overlay-HolePunched.gif"}},
         IconCase{"TabStock", 24, 13, 1, {"Paper_Pre-CutTab-Orange.gif"}},
         IconCase{"FullCutTab", 5, 9, kUnset, {"Paper_FullCutTab-Red.gif"}},
@@ -73,10 +76,9 @@ INSTANTIATE_TEST_SUITE_P(
                  8,
                  kUnset,
                  {"Paper_Reloaded-Goldenrod.gif", "Paper_Overlay-LightweightGlossReloaded.gif"}},
-        IconCase{"CustomType3", 17, 7, kUnset,
-                 {"Paper_Plain-Buff.gif", "Paper_Overlay-Custom3.gif"}},
-        IconCase{"CustomColourIsWhite", 1, kCustomMediaColor, kUnset,
-                 {"Paper_Plain-White.gif"}},
+        IconCase{
+            "CustomType3", 17, 7, kUnset, {"Paper_Plain-Buff.gif", "Paper_Overlay-Custom3.gif"}},
+        IconCase{"CustomColourIsWhite", 1, kCustomMediaColor, kUnset, {"Paper_Plain-White.gif"}},
         IconCase{"Unset", kUnset, kUnset, kUnset, {"Paper_Plain-White.gif"}}),
     [](const ::testing::TestParamInfo<IconCase>& info) { return info.param.name; });
 

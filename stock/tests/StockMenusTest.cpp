@@ -35,7 +35,8 @@ TEST_F(StockMenusTest, JobMenusListThePrintersChoicesWithTheirCommands)
     PopulateStockTypeMenu(types, bundle.get(), JobContext::Job);
 
     ASSERT_EQ(colors.count(), 22);
-    EXPECT_EQ(*colors.item(1), (MenuItem{QStringLiteral("Printer Default"), kStockColorCommand, 23}));
+    EXPECT_EQ(*colors.item(1),
+              (MenuItem{QStringLiteral("Printer Default"), kStockColorCommand, 23}));
     EXPECT_EQ(colors.item(colors.findReferenceValue(2))->text, QStringLiteral("Blue"));
     EXPECT_TRUE(hasValue(colors, 22)) << "the job keeps Unspecified";
 
@@ -66,9 +67,9 @@ TEST_P(SpecialPageMenusTest, StartWithUseJobSettingAndDropThePrinterDefaults)
     PopulateStockColorMenu(colors, bundle.get(), GetParam());
     PopulateStockTypeMenu(types, bundle.get(), GetParam());
     PopulateStockSizeMenu(sizes, bundle.get(), GetParam());
-    for (auto [menu, command] : {std::pair{&colors, kStockColorCommand},
-                                 std::pair{&types, kStockTypeCommand},
-                                 std::pair{&sizes, kStockSizeCommand}}) {
+    for (auto [menu, command] :
+         {std::pair{&colors, kStockColorCommand}, std::pair{&types, kStockTypeCommand},
+          std::pair{&sizes, kStockSizeCommand}}) {
         EXPECT_EQ(*menu->item(1), (MenuItem{QStringLiteral("Use Job Setting"), command, kUnset}));
     }
     EXPECT_FALSE(hasValue(colors, 22));
@@ -91,8 +92,8 @@ INSTANTIATE_TEST_SUITE_P(CoversInsertsExceptions, SpecialPageMenusTest,
 
 TEST_F(StockMenusTest, StockMenuOffersTheInserterOnlyToCoversAndInserts)
 {
-    for (JobContext context : {JobContext::Job, JobContext::Covers, JobContext::Inserts,
-                               JobContext::ExceptionPages}) {
+    for (JobContext context :
+         {JobContext::Job, JobContext::Covers, JobContext::Inserts, JobContext::ExceptionPages}) {
         StockMenu menu{{{QStringLiteral("left over")}, std::nullopt}};
         PopulateStockMenu(menu, bundle.get(), context);
         const bool inserter = context == JobContext::Covers || context == JobContext::Inserts;

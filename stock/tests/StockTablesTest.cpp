@@ -35,7 +35,8 @@ TEST(StockTables, DuplicateRowsStayAndLookupTakesTheFirst)
     for (const PPDChoiceMap* row = ppdmaps::_PageSizeMap; row->choice; ++row)
         threeByFive += std::string_view(row->choice) == "3x5";
     EXPECT_EQ(threeByFive, 2);
-    EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("MediaType"), QStringLiteral("CardStock")), 12);
+    EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("MediaType"), QStringLiteral("CardStock")),
+              12);
     EXPECT_STREQ(PPDChoiceForTicketValue(QStringLiteral("MediaType"), 43), "CardStock");
     EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("PageSize"), QStringLiteral("Custom")), 75);
     EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("MediaColor"), QStringLiteral("Clear")), 6);

@@ -31,12 +31,12 @@ const QColor kOutline(90, 90, 90);
 QColor paperColor(const QString& name)
 {
     static const QHash<QString, QColor> colors = {
-        {"White", QColor(255, 255, 255)},       {"Blue", QColor(158, 201, 240)},
-        {"Yellow", QColor(255, 243, 138)},      {"Green", QColor(168, 224, 160)},
-        {"Pink", QColor(248, 192, 216)},        {"Clear", QColor(215, 232, 250, 90)},
-        {"Buff", QColor(240, 220, 180)},        {"Goldenrod", QColor(232, 181, 48)},
-        {"Red", QColor(232, 96, 96)},           {"Ivory", QColor(255, 251, 230)},
-        {"Gray", QColor(196, 196, 196)},        {"Orange", QColor(248, 176, 96)},
+        {"White", QColor(255, 255, 255)},  {"Blue", QColor(158, 201, 240)},
+        {"Yellow", QColor(255, 243, 138)}, {"Green", QColor(168, 224, 160)},
+        {"Pink", QColor(248, 192, 216)},   {"Clear", QColor(215, 232, 250, 90)},
+        {"Buff", QColor(240, 220, 180)},   {"Goldenrod", QColor(232, 181, 48)},
+        {"Red", QColor(232, 96, 96)},      {"Ivory", QColor(255, 251, 230)},
+        {"Gray", QColor(196, 196, 196)},   {"Orange", QColor(248, 176, 96)},
     };
     return colors.value(name, Qt::white);
 }
@@ -164,9 +164,9 @@ void drawLabels(QPainter& p)
     p.setBrush(QColor(255, 255, 255, 200));
     for (int row = 0; row < 4; ++row)
         for (int column = 0; column < 2; ++column)
-            p.drawRoundedRect(QRectF(kSheet.left() + 3 + column * 11, kSheet.top() + 10 + row * 7,
-                                     9, 5),
-                              1.5, 1.5);
+            p.drawRoundedRect(
+                QRectF(kSheet.left() + 3 + column * 11, kSheet.top() + 10 + row * 7, 9, 5), 1.5,
+                1.5);
 }
 
 void drawOverlay(QPainter& p, const QString& name)
