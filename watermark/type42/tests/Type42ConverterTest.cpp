@@ -1,400 +1,265 @@
-// The program text: header, sfnts strings and their break points, CharStrings
-// and the closing lines, on fonts built in memory.
+// The program text on fonts built in memory: header, sfnts strings and their
+// break points, CharStrings and the closing lines; and what fonts that lack
+// tables, are truncated or lie about their tables give (never a read outside
+// the font's bytes: the fuzz target and the sanitizer builds run these paths).
+#include "Type42TestSupport.h"
 
-#include "watermark/type42/Type42Converter.h"
-#include "SfntBuilder.h"
-#include "Type42Program.h"
+#include "watermark/type42/SfntData.h"
 
 #include <gtest/gtest.h>
+
+#include <memory>
 
 namespace orvan {
 namespace {
 
 using namespace orvan::test;
+using enum Type42Result;
 
-bool startsWith(std::string_view text, std::string_view prefix)
+struct HeaderCase
 {
-    return text.substr(0, prefix.size()) == prefix;
+    const char* what;
+    FontSpec spec;
+    std::string name;
+    std::string expected; // a part of the program
+};
+
+TEST(Type42Program, HeaderAndClosingLines)
+{
+    const std::string n511(511, 'N'), n510(510, 'N');
+    // clang-format off
+    const HeaderCase cases[] = {
+        {"versions, name, encoding", {.revision = 0x00028000}, "Orvan-Sans",
+         "%!PS-TrueTypeFont-1.0000-2.5000\n11 dict begin\n/FontName /Orvan-Sans def\n/Encoding 256 array\ndup 0 /.notdef put\n"},
+        {"signed 16.16 versions", {.version = 0xFFFF0000, .revision = 0x0001199A}, "F", "TrueTypeFont--1.0000-1.1000\n11 dict"},
+        {"VMUsage with a maximum", {.post = post3(4096, 4294967295u)}, "F", "-1.0000\n%%VMUsage: 4096 4294967295\n11 dict"},
+        {"no VMUsage without a maximum", {.post = post3(4096, 0)}, "F", "-1.0000\n11 dict begin\n"},
+        // The two have always shared a line in stored programs.
+        {"Encoding close shares a line with PaintType", {}, "F",
+         "dup 255 /.notdef put\nreadonly def/PaintType 0 def\n/FontMatrix [1 0 0 1 0 0] def\n"},
+        // -7/1000 is -0.007 in reals; the integer division gives -0.006989.
+        {"bounding box by truncating division", {.xMin = -7, .yMin = -250, .xMax = 1003, .yMax = 32767}, "F",
+         "def\n/FontBBox [-0.006989 -0.250000 1.002991 32.766998] def\n/FontType 42 def\n"
+         "/FontInfo 8 dict dup begin\nend readonly def\n/sfnts [\n<"},
+        {"bounding box at 2048 units", {.unitsPerEm = 2048, .xMin = -2090, .yMin = -483, .xMax = 3673, .yMax = 2000},
+         "F", "/FontBBox [-1.020508 -0.235840 1.793457 0.976562] def\n"},
+        {"name cut at a NUL", {}, std::string("Name\0Rest", 9), "/FontName /Name def\n"},
+        {"511-byte name whole", {}, n511, "/FontName /" + n511 + " def\n"},
+        {"longer name cut to 511 bytes", {}, n511 + "X", "/FontName /" + n511 + " def\n"},
+        {"character across the limit goes whole", {}, n510 + "\xC3\xA9", "/FontName /" + n510 + " def\n"},
+        // "FontName" without a slash, as every stored program has it.
+        {"closing lines", {.glyphs = 7}, "F",
+         "00>] def\n/CharStrings 7 dict dup begin\nend readonly def\nFontName currentdict end definefont pop\n"},
+    };
+    // clang-format on
+    for (const HeaderCase& c : cases) {
+        const std::string program = convertQuietly(build(vitalTables(c.spec)), c.name);
+        EXPECT_NE(program.find(c.expected), std::string::npos) << c.what << ":\n"
+                                                               << program.substr(0, 300);
+        EXPECT_TRUE(program.starts_with("%!PS-TrueTypeFont-")) << c.what;
+        EXPECT_TRUE(
+            program.ends_with("end readonly def\nFontName currentdict end definefont pop\n"))
+            << c.what;
+    }
 }
 
-bool endsWith(std::string_view text, std::string_view suffix)
+// Without post format 2.0 names the encoding is StandardEncoding as it stands
+// and CharStrings stays empty (see the closing lines); stored programs were
+// written so.
+TEST(Type42Program, PostFormat3KeepsStandardEncoding)
 {
-    return text.size() >= suffix.size() && text.substr(text.size() - suffix.size()) == suffix;
+    const std::string program = convertQuietly(build(vitalTables({.glyphs = 3})));
+    for (const char* line :
+         {"dup 0 /.notdef put\n", "dup 32 /space put\n", "dup 39 /quoteright put\n",
+          "dup 65 /A put\n", "dup 251 /germandbls put\n"})
+        EXPECT_NE(program.find(line), std::string::npos) << line;
 }
 
-TEST(Type42Header, OpensWithVersionsNameAndEncoding)
+TEST(Type42Program, Format2NamesEveryGlyphAndCallsGlyphZeroNotdef)
 {
-    HeadFields head;
-    head.version = 0x00010000;
-    head.revision = 0x00028000; // 2.5
-    const std::string program = convertQuietly(minimalFont(1, head).build(), "Orvan-Sans");
-    EXPECT_TRUE(startsWith(program, "%!PS-TrueTypeFont-1.0000-2.5000\n"
-                                    "11 dict begin\n"
-                                    "/FontName /Orvan-Sans def\n"
-                                    "/Encoding 256 array\n"
-                                    "dup 0 /.notdef put\n"
-                                    "dup 1 /.notdef put\n"))
-        << program.substr(0, 200);
-}
-
-TEST(Type42Header, VersionsAreSigned16Dot16)
-{
-    HeadFields head;
-    head.version = 0xFFFF0000;  // -1.0
-    head.revision = 0x0001199A; // 1.1000
-    const std::string program = convertQuietly(minimalFont(1, head).build());
-    EXPECT_TRUE(startsWith(program, "%!PS-TrueTypeFont--1.0000-1.1000\n")) << program.substr(0, 40);
-}
-
-TEST(Type42Header, VMUsageOnlyWhenTheFontStatesAMaximum)
-{
-    FontBuilder withUsage;
-    withUsage.add("head", headTable())
-        .add("maxp", maxpTable(1))
-        .add("post", postTable3(4096, 4294967295u))
-        .add("name", nameTable());
-    EXPECT_NE(
-        convertQuietly(withUsage.build()).find("-1.0000\n%%VMUsage: 4096 4294967295\n11 dict"),
-        std::string::npos);
-
-    FontBuilder minimumOnly;
-    minimumOnly.add("head", headTable())
-        .add("maxp", maxpTable(1))
-        .add("post", postTable3(4096, 0))
-        .add("name", nameTable());
-    EXPECT_EQ(convertQuietly(minimumOnly.build()).find("VMUsage"), std::string::npos);
-}
-
-// "readonly def" closing the Encoding and "/PaintType 0 def" have always
-// shared a line in stored programs.
-TEST(Type42Header, EncodingCloseSharesItsLineWithPaintType)
-{
-    const std::string program = convertQuietly(minimalFont().build());
-    EXPECT_NE(program.find("dup 255 /.notdef put\n"
-                           "readonly def/PaintType 0 def\n"
-                           "/FontMatrix [1 0 0 1 0 0] def\n"),
-              std::string::npos);
-}
-
-TEST(Type42Header, BoundingBoxIsScaledWithTruncatingIntegerDivision)
-{
-    HeadFields head;
-    head.unitsPerEm = 1000;
-    head.xMin = -7; // -0.007 in reals; the integer division gives -0.006989
-    head.yMin = -250;
-    head.xMax = 1003;
-    head.yMax = 32767;
-    const std::string program = convertQuietly(minimalFont(1, head).build());
-    EXPECT_NE(program.find("/FontMatrix [1 0 0 1 0 0] def\n"
-                           "/FontBBox [-0.006989 -0.250000 1.002991 32.766998] def\n"
-                           "/FontType 42 def\n"
-                           "/FontInfo 8 dict dup begin\n"
-                           "end readonly def\n"
-                           "/sfnts [\n<"),
+    // Custom names "zeroglyph", "Euro" and an empty one (not listed).
+    const std::string program = convertQuietly(build(vitalTables(
+        {.glyphs = 6, .post = post2({258, 36, 2, 147, 259, 260}, {"zeroglyph", "Euro", ""})})));
+    EXPECT_NE(program.find("/CharStrings 6 dict dup begin\n/.notdef 0 def\n/A 1 def\n/CR 2 def\n"
+                           "/plusinus 3 def\n/Euro 4 def\nend readonly def\n"),
               std::string::npos);
 
-    head.unitsPerEm = 2048;
-    head.xMin = -2090;
-    head.yMin = -483;
-    head.xMax = 3673;
-    head.yMax = 2000;
-    EXPECT_NE(convertQuietly(minimalFont(1, head).build())
-                  .find("/FontBBox [-1.020508 -0.235840 1.793457 0.976562] def\n"),
-              std::string::npos);
-}
-
-TEST(Type42Header, PostScriptNameIsCutAtNulAnd511BytesOnACharacterBoundary)
-{
-    const Bytes font = minimalFont().build();
-    EXPECT_NE(convertQuietly(font, std::string_view("Name\0Rest", 9)).find("/FontName /Name def\n"),
-              std::string::npos);
-
-    const std::string fits(511, 'N');
-    EXPECT_NE(convertQuietly(font, fits).find("/FontName /" + fits + " def\n"), std::string::npos);
-    EXPECT_NE(convertQuietly(font, fits + "X").find("/FontName /" + fits + " def\n"),
-              std::string::npos);
-
-    // 510 ASCII bytes and a two-byte character: the character would straddle
-    // the limit, so it goes whole.
-    const std::string straddling = std::string(510, 'N') + "\xC3\xA9";
-    EXPECT_NE(
-        convertQuietly(font, straddling).find("/FontName /" + std::string(510, 'N') + " def\n"),
-        std::string::npos);
-}
-
-TEST(Type42Closing, EndsWithCharStringsAndDefinefont)
-{
-    const std::string program = convertQuietly(minimalFont(7).build());
-    EXPECT_TRUE(endsWith(program, "00>] def\n"
-                                  "/CharStrings 7 dict dup begin\n"
-                                  "end readonly def\n"
-                                  "FontName currentdict end definefont pop\n"));
-}
-
-// Without post format 2.0 names the dictionary stays empty and the encoding
-// is StandardEncoding as it stands; stored programs were written so.
-TEST(Type42CharStrings, PostFormat3GivesStandardEncodingAndAnEmptyDictionary)
-{
-    const std::string program = convertQuietly(minimalFont(3).build());
-    EXPECT_TRUE(charStringsOf(program).empty());
-    const auto encoding = encodingOf(program);
-    ASSERT_EQ(encoding.size(), 256u);
-    EXPECT_EQ(encoding.at(0), ".notdef");
-    EXPECT_EQ(encoding.at(32), "space");
-    EXPECT_EQ(encoding.at(39), "quoteright");
-    EXPECT_EQ(encoding.at(65), "A");
-    EXPECT_EQ(encoding.at(251), "germandbls");
-}
-
-TEST(Type42CharStrings, Format2NamesEveryGlyphAndCallsGlyphZeroNotdef)
-{
-    const std::string program =
-        convertQuietly(namedFont({customName("zeroglyph"), standardName(36), standardName(2),
-                                  standardName(147), customName("Euro"), customName("")})
-                           .build());
-    const std::vector<std::pair<std::string, int>> expected = {
-        {".notdef", 0}, {"A", 1}, {"CR", 2}, {"plusinus", 3}, {"Euro", 4}};
-    EXPECT_EQ(charStringsOf(program), expected);
-    EXPECT_NE(program.find("/CharStrings 6 dict dup begin\n/.notdef 0 def\n/A 1 def\n"),
-              std::string::npos);
-}
-
-TEST(Type42CharStrings, CustomNamesStopAtANulByte)
-{
-    FontBuilder font;
-    font.add("head", headTable())
-        .add("maxp", maxpTable(2))
-        .add("post", postTable2({0, 258}, {std::string("ab\0cd", 5)}))
-        .add("name", nameTable());
-    const std::string program = convertQuietly(font.build());
-    EXPECT_NE(program.find("/ab 1 def\n"), std::string::npos);
-    EXPECT_NE(program.find("dup 32 /ab put\n"), std::string::npos);
-    EXPECT_EQ(program.find('\0'), std::string::npos);
-}
-
-TEST(Type42Sfnts, SmallFontIsOneStringHoldingTheWholeFile)
-{
-    FontBuilder builder = minimalFont();
-    builder.add("glyf", Bytes(65000, 0xA5));
-    const Bytes font = builder.build();
-    ASSERT_LT(font.size(), 65534u);
-    const std::string program = convertQuietly(font);
-    const auto strings = sfntsStrings(program);
-    ASSERT_TRUE(strings);
-    ASSERT_EQ(strings->size(), 1u);
-    EXPECT_EQ(strings->front(), font);
+    const std::string nul = convertQuietly(
+        build(vitalTables({.glyphs = 2, .post = post2({0, 258}, {std::string("ab\0cd", 5)})})));
+    EXPECT_NE(nul.find("dup 32 /ab put\n"), std::string::npos);
+    EXPECT_NE(nul.find("/.notdef 0 def\n/ab 1 def\nend"), std::string::npos);
+    EXPECT_EQ(nul.find('\0'), std::string::npos);
 }
 
 // A 100 000-byte font whose largest break point within 65534 bytes is the
-// glyph starting at 60 000.
-Bytes splitFont()
+// glyph that starts at 60 000 (the next one starts past the window).
+TEST(Type42Sfnts, HundredThousandBytesSplitAtTheLastBreakPointInReach)
 {
-    FontBuilder probe = minimalFont(3);
-    probe.add("loca", locaLong({0, 0, 0})).add("glyf", {});
-    const std::size_t glyf = probe.offsetOf("glyf");
-
-    FontBuilder builder = minimalFont(3);
-    const auto start = [glyf](std::size_t position) {
-        return static_cast<std::uint32_t>(position - glyf);
-    };
-    // Glyph 2 starts past the window, glyph 1 at 60 000.
-    builder.add("loca", locaLong({0, start(60000), start(70000)}));
-    builder.add("glyf", Bytes(100000 - glyf, 0));
-    Bytes font = builder.build();
+    const std::size_t glyf = offsetOf(glyphTables({.glyphs = 3}, loca({0, 0, 0}), 0), "glyf");
+    const auto at = [glyf](std::size_t position) { return std::uint32_t(position - glyf); };
+    Bytes font = build(glyphTables({.glyphs = 3}, loca({0, at(60000), at(70000)}), 100000 - glyf));
+    ASSERT_EQ(font.size(), 100000u);
     for (std::size_t i = glyf; i < font.size(); ++i)
         font[i] = static_cast<std::uint8_t>(i * 7);
+    const std::vector<Bytes> expected = {Bytes(font.begin(), font.begin() + 60000),
+                                         Bytes(font.begin() + 60000, font.end())};
+    EXPECT_EQ(sfntsStrings(convertQuietly(font)), expected);
+}
+
+// Glyph starts are break points only when their loca offset is a multiple of
+// 4 (twice the entry in the short format, 0 in an unknown one), wherever they
+// stand in glyph order; starts beyond the file are harmless. With no break
+// point within 65534 bytes of the current position the program stops after
+// the last complete string, the array left open: kept so.
+TEST(Type42Sfnts, BreakPoints)
+{
+    struct Case
+    {
+        const char* what;
+        std::int16_t locFormat;
+        Bytes loca;
+        std::size_t glyfSize;
+        Type42Result result;
+        std::size_t strings;
+        std::size_t firstEndsAfterGlyf;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"under 65534 bytes: one string", 1, loca({0}), 65000, Converted, 1, 65000},
+        {"short: 20000 gives 40000, 25001 no break", 0, loca({0, 20000, 25001}, 2), 90000, Converted, 2, 40000},
+        {"out of glyph order", 1, loca({0, 50000, 20000, 30000}), 100000, Converted, 2, 50000},
+        {"unknown format: every glyph at glyf", 2, loca({40000, 50000}), 65400, Converted, 2, 0},
+        {"none in reach: cut short", 1, loca({0}), 140000, CutShort, 1, 0},
+        {"starts beyond the file", 1, loca({0x7FFFFFF0u, 0xFFFFFFFCu}), 70000, CutShort, 1, 0},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const auto glyphs = std::uint16_t(c.loca.size() / (c.locFormat == 0 ? 2 : 4));
+        const Tables tables =
+            glyphTables({.glyphs = glyphs, .locFormat = c.locFormat}, c.loca, c.glyfSize, 0x5A);
+        const Bytes font = build(tables);
+        std::string out = "kept:";
+        EXPECT_EQ(convertTTFtoPS42(font, "F", out, Type42Diagnostics::Silent), c.result) << c.what;
+        EXPECT_TRUE(out.starts_with("kept:%!PS-TrueTypeFont-")) << c.what;
+        EXPECT_EQ(out.ends_with("00>"), c.result == CutShort) << c.what;
+        const auto strings = sfntsStrings(out);
+        ASSERT_TRUE(strings) << c.what;
+        ASSERT_EQ(strings->size(), c.strings) << c.what;
+        const std::size_t first = offsetOf(tables, "glyf") + c.firstEndsAfterGlyf;
+        EXPECT_EQ(strings->front(), Bytes(font.begin(), font.begin() + first)) << c.what;
+    }
+}
+
+// The font in a heap block of exactly its size, so that AddressSanitizer
+// catches any read past its end.
+Type42Result convertExact(const Bytes& font, std::string& out,
+                          Type42Diagnostics diagnostics = Type42Diagnostics::Silent)
+{
+    auto copy = std::make_unique<std::uint8_t[]>(font.size());
+    std::copy(font.begin(), font.end(), copy.get());
+    return convertTTFtoPS42(FontBytes(copy.get(), font.size()), "F", out, diagnostics);
+}
+
+// The vital tables without `tag`, or with other contents for it.
+Bytes vitalTablesWith(std::string_view tag, std::optional<Bytes> contents)
+{
+    Tables tables = vitalTables();
+    std::erase_if(tables, [&](const auto& table) { return table.first == tag && !contents; });
+    for (auto& table : tables)
+        table.second = table.first == tag ? *contents : table.second;
+    return build(tables);
+}
+
+// `font` with `width` bytes at `at` set to `value`; directory record i
+// starts at 12 + 16i and holds the offset at +8 and the length at +12.
+Bytes patched(Bytes font, std::size_t at, std::uint32_t value, int width = 4)
+{
+    put(font, at, value, width);
     return font;
 }
 
-TEST(Type42Sfnts, HundredThousandBytesSplitAtTheLastBreakPointInReach)
+TEST(Type42Results, FailuresAppendNothingAndSayWhyOnStandardError)
 {
-    const Bytes font = splitFont();
-    ASSERT_EQ(font.size(), 100000u);
-    const std::string program = convertQuietly(font);
-    const auto strings = sfntsStrings(program);
-    ASSERT_TRUE(strings);
-    ASSERT_EQ(strings->size(), 2u);
-    EXPECT_EQ(strings->at(0), Bytes(font.begin(), font.begin() + 60000));
-    EXPECT_EQ(strings->at(1), Bytes(font.begin() + 60000, font.end()));
-}
-
-// Lines hold 30 bytes counted from the start of the file, shifted by two
-// for every string already written, and strings follow each other with no
-// separator.
-TEST(Type42Sfnts, LineBreaksShiftAtEachStringBoundary)
-{
-    const Bytes font = splitFont();
-    const std::string program = convertQuietly(font);
-    const std::string_view sfnts = sfntsText(program);
-    // Byte 59 999 ends a line of the first string; the second string's first
-    // line holds 28 bytes (60 000 to 60 027) and the next line 30.
-    const std::size_t boundary = sfnts.find("00><");
-    ASSERT_NE(boundary, std::string_view::npos);
-    EXPECT_EQ(sfnts[boundary - 1], '\n');
-    const std::size_t firstLineEnd = sfnts.find('\n', boundary);
-    EXPECT_EQ(firstLineEnd - (boundary + 4), 2 * 28u);
-    EXPECT_EQ(sfnts.find('\n', firstLineEnd + 1) - (firstLineEnd + 1), 60u);
-    EXPECT_TRUE(startsWith(sfnts, "/sfnts [\n<"));
-    EXPECT_EQ(sfnts.find('\n', 10) - 10, 60u);
-    EXPECT_TRUE(endsWith(sfnts, "00>] def\n"));
-}
-
-// No break point within 65534 bytes of the current position: the program
-// stops after the last complete string, without closing the array.
-TEST(Type42Sfnts, StopsAbruptlyWhenNoBreakPointIsInReach)
-{
-    FontBuilder builder = minimalFont();
-    builder.add("glyf", Bytes(140000, 0x11));
-    const Bytes font = builder.build();
-    std::string out = "kept:";
-    EXPECT_EQ(convertTTFtoPS42(font, "F", out, Type42Diagnostics::Silent), Type42Result::CutShort);
-    EXPECT_TRUE(startsWith(out, "kept:%!PS-TrueTypeFont-"));
-    EXPECT_TRUE(endsWith(out, "00>"));
-    EXPECT_EQ(out.find("00>] def"), std::string::npos);
-    EXPECT_EQ(out.find("/CharStrings"), std::string::npos);
-    const auto strings = sfntsStrings(out);
-    ASSERT_TRUE(strings);
-    ASSERT_EQ(strings->size(), 1u);
-    EXPECT_EQ(strings->at(0), Bytes(font.begin(), font.begin() + builder.offsetOf("glyf")));
-}
-
-// Glyph starts count only when their loca offset is a multiple of 4; in the
-// short format the offset is twice the entry.
-TEST(Type42Sfnts, GlyphStartsBreakOnlyAtOffsetsThatAreMultiplesOfFour)
-{
-    HeadFields shortLoca;
-    shortLoca.indexToLocFormat = 0;
-    FontBuilder probe = minimalFont(3, shortLoca);
-    probe.add("loca", locaShort({0, 0, 0})).add("glyf", {});
-    const std::size_t glyf = probe.offsetOf("glyf");
-
-    FontBuilder builder = minimalFont(3, shortLoca);
-    // Glyph 1 at glyf + 40 000 (entry 20 000), glyph 2 at glyf + 50 002
-    // (entry 25 001: not a multiple of 4, so not a break point).
-    builder.add("loca", locaShort({0, 20000, 25001}));
-    builder.add("glyf", Bytes(90000, 0x22));
-    const Bytes font = builder.build();
-    const auto strings = sfntsStrings(convertQuietly(font));
-    ASSERT_TRUE(strings);
-    ASSERT_EQ(strings->size(), 2u);
-    EXPECT_EQ(strings->at(0).size(), glyf + 40000);
-}
-
-// Glyph data need not follow glyph order; the largest break point in reach
-// counts wherever it stands in the list.
-TEST(Type42Sfnts, GlyphStartsOutOfOrderStillGiveTheLargestBreakPoint)
-{
-    FontBuilder probe = minimalFont(4);
-    probe.add("loca", locaLong({0, 0, 0, 0})).add("glyf", {});
-    const std::size_t glyf = probe.offsetOf("glyf");
-
-    FontBuilder builder = minimalFont(4);
-    builder.add("loca", locaLong({0, 50000, 20000, 30000})).add("glyf", Bytes(100000, 0x44));
-    const auto strings = sfntsStrings(convertQuietly(builder.build()));
-    ASSERT_TRUE(strings);
-    ASSERT_EQ(strings->size(), 2u);
-    EXPECT_EQ(strings->at(0).size(), glyf + 50000);
-}
-
-TEST(Type42Sfnts, UnknownLocaFormatPutsEveryGlyphAtTheStartOfGlyf)
-{
-    HeadFields oddLoca;
-    oddLoca.indexToLocFormat = 2;
-    FontBuilder builder = minimalFont(2, oddLoca);
-    builder.add("loca", locaLong({40000, 50000}));
-    builder.add("glyf", Bytes(65400, 0x33));
-    const Bytes font = builder.build();
-    const auto strings = sfntsStrings(convertQuietly(font));
-    ASSERT_TRUE(strings);
-    ASSERT_EQ(strings->size(), 2u);
-    EXPECT_EQ(strings->at(0).size(), builder.offsetOf("glyf"));
-}
-
-TEST(Type42VitalTables, EachMissingVitalTableStopsWithTheDiagnostic)
-{
-    for (std::string_view missing : {"maxp", "head", "post", "name"}) {
-        FontBuilder builder;
-        for (std::string_view tag : {"head", "maxp", "post", "name"}) {
-            const std::string_view used = tag == missing ? std::string_view("xxxx") : tag;
-            if (tag == "head")
-                builder.add(used, headTable());
-            else if (tag == "maxp")
-                builder.add(used, maxpTable(1));
-            else if (tag == "post")
-                builder.add(used, postTable3());
-            else
-                builder.add(used, nameTable());
-        }
+    const Bytes minimal = build(vitalTables());
+    Bytes cutIndexes = post2({0, 1, 2, 3});
+    cutIndexes.resize(cutIndexes.size() - 4);
+    Bytes overlongName = post2({0, 258}, {"abc"});
+    overlongName[overlongName.size() - 4] = 200;
+    const char* vital = "DEBUG: Malformed TrueType file - missing vital table.\n";
+    struct Case
+    {
+        const char* what;
+        Bytes font;
+        Type42Result result;
+        const char* message; // null: any "DEBUG: Malformed TrueType file - " line
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"loca and glyf are not required", minimal, Converted, ""},
+        {"no maxp", vitalTablesWith("maxp", {}), MissingVitalTable, vital},
+        {"no head", vitalTablesWith("head", {}), MissingVitalTable, vital},
+        {"no post", vitalTablesWith("post", {}), MissingVitalTable, vital},
+        {"no name", vitalTablesWith("name", {}), MissingVitalTable, vital},
+        // The message has never had a full stop.
+        {"bad magic number", build(vitalTables({.magic = 0})), BadMagicNumber, "DEBUG: Malformed TrueType file - Bad magic number\n"},
+        {"post glyph count differs from maxp", build(vitalTables({.glyphs = 3, .post = post2({0, 36})})), GlyphCountMismatch, ""},
+        {"name format 1", build(vitalTables({.nameFormat = 1})), UnsupportedNameFormat, ""},
+        {"unitsPerEm 0", build(vitalTables({.unitsPerEm = 0})), ZeroUnitsPerEm, "DEBUG: Malformed TrueType file - unitsPerEm is 0.\n"},
+        {"directory longer than the file", patched(minimal, 4, 400, 2), TruncatedDirectory},
+        {"shorter than a directory", Bytes(minimal.begin(), minimal.begin() + 11), TruncatedDirectory},
+        {"head past the end", patched(minimal, 12 + 12, std::uint32_t(minimal.size())), TableOutOfBounds},
+        {"offset + length wraps in 32 bits", patched(patched(minimal, 28 + 8, 0xFFFFFFF0u), 28 + 12, 0x20u), TableOutOfBounds},
+        {"glyf past the end", patched(build(glyphTables({}, loca({0}), 8)), 92 + 12, 0x7FFFFFFF), TableOutOfBounds},
+        {"head too short", vitalTablesWith("head", Bytes(50)), TableTooShort},
+        {"maxp too short", vitalTablesWith("maxp", Bytes(4)), TableTooShort},
+        {"post too short", vitalTablesWith("post", Bytes(20)), TableTooShort},
+        {"name too short", vitalTablesWith("name", Bytes(1)), TableTooShort},
+        {"name indexes past post", build(vitalTables({.glyphs = 4, .post = cutIndexes})), TableTooShort},
+        {"loca shorter than the glyph count", build(glyphTables({.glyphs = 5}, loca({0, 4, 8}), 16)), TableTooShort},
+        {"name index past the strings", build(vitalTables({.glyphs = 2, .post = post2({0, 260}, {"one", "two"})})), GlyphNameOutOfBounds},
+        {"last string longer than post", build(vitalTables({.glyphs = 2, .post = overlongName})), GlyphNameOutOfBounds},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
         std::string out = "before";
         testing::internal::CaptureStderr();
-        EXPECT_EQ(convertTTFtoPS42(builder.build(), "F", out), Type42Result::MissingVitalTable);
-        EXPECT_EQ(testing::internal::GetCapturedStderr(),
-                  "DEBUG: Malformed TrueType file - missing vital table.\n")
-            << missing;
-        EXPECT_EQ(out, "before");
+        EXPECT_EQ(convertExact(c.font, out, Type42Diagnostics::StandardError), c.result) << c.what;
+        const std::string printed = testing::internal::GetCapturedStderr();
+        if (c.message)
+            EXPECT_EQ(printed, c.message) << c.what;
+        else
+            EXPECT_TRUE(printed.starts_with("DEBUG: Malformed TrueType file - ") &&
+                        printed.ends_with(".\n"))
+                << c.what << ": " << printed;
+        EXPECT_EQ(out == "before", appendsNothing(c.result)) << c.what;
     }
 }
 
-TEST(Type42VitalTables, LocaAndGlyfAreNotRequired)
+TEST(Type42Results, EveryTruncationOfAFontIsRejectedWithinBounds)
 {
-    std::string out;
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(convertTTFtoPS42(minimalFont().build(), "F", out), Type42Result::Converted);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    EXPECT_FALSE(out.empty());
-}
-
-TEST(Type42VitalTables, BadMagicNumberStopsWithTheDiagnostic)
-{
-    HeadFields head;
-    head.magicNumber = 0;
-    std::string out = "before";
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(convertTTFtoPS42(minimalFont(1, head).build(), "F", out),
-              Type42Result::BadMagicNumber);
-    // The message has never had a full stop.
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "DEBUG: Malformed TrueType file - Bad magic number\n");
-    EXPECT_EQ(out, "before");
-}
-
-TEST(Type42VitalTables, GlyphCountMismatchAndNameFormatStopSilently)
-{
-    FontBuilder mismatch;
-    mismatch.add("head", headTable())
-        .add("maxp", maxpTable(3))
-        .add("post", postTable2({0, 36}, {}))
-        .add("name", nameTable());
-    FontBuilder nameFormat1;
-    nameFormat1.add("head", headTable())
-        .add("maxp", maxpTable(1))
-        .add("post", postTable3())
-        .add("name", nameTable(1));
-
-    const std::pair<Bytes, Type42Result> cases[] = {
-        {mismatch.build(), Type42Result::GlyphCountMismatch},
-        {nameFormat1.build(), Type42Result::UnsupportedNameFormat},
-    };
-    for (const auto& [font, expected] : cases) {
+    const Bytes font =
+        build(glyphTables({.glyphs = 3, .post = post2({0, 258, 259}, {"Euro", "longname"})},
+                          loca({0, 4, 8}), 12, 0x5A));
+    for (std::size_t length = 0; length < font.size(); ++length) {
         std::string out;
-        testing::internal::CaptureStderr();
-        EXPECT_EQ(convertTTFtoPS42(font, "F", out), expected);
-        EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+        EXPECT_TRUE(appendsNothing(convertExact(Bytes(font.begin(), font.begin() + length), out)))
+            << "length " << length;
         EXPECT_TRUE(out.empty());
     }
+    std::string out;
+    EXPECT_EQ(convertExact(font, out), Converted);
 }
 
-TEST(Type42VitalTables, FindTableTakesTheFirstMatchInDirectoryOrder)
+TEST(Type42Font, FindTableTakesTheFirstMatchInDirectoryOrder)
 {
-    FontBuilder builder;
-    builder.add("head", headTable()).add("abcd", Bytes(8, 1)).add("abcd", Bytes(4, 2));
-    const Bytes font = builder.build();
+    const Tables tables = {{"head", Bytes(54)}, {"abcd", Bytes(8, 1)}, {"abcd", Bytes(4, 2)}};
+    const Bytes font = build(tables);
     const auto found = find_table("abcd", font);
     ASSERT_TRUE(found);
-    EXPECT_EQ(found->offset, builder.offsetOf("abcd"));
+    EXPECT_EQ(found->offset, offsetOf(tables, "abcd"));
     EXPECT_EQ(found->length, 8u);
     EXPECT_FALSE(find_table("glyf", font));
-    EXPECT_FALSE(find_table("head", FontBuilder().build()));
+    EXPECT_FALSE(find_table("head", build({})));
 }
 
 } // namespace

@@ -1,18 +1,18 @@
-// Real fonts: the program carries the whole file, and Ghostscript draws text
-// with it exactly as it draws the same text from the TrueType file.
+// Real fonts: the program carries the whole file and every glyph, and
+// Ghostscript draws text with it exactly as it draws the TrueType file.
+#include "Type42TestSupport.h"
 
-#include "SfntBuilder.h"
-#include "ShellCommand.h"
-#include "Type42Program.h"
 #include "watermark/type42/FontPostScriptName.h"
 #include "watermark/type42/SfntData.h"
-#include "watermark/type42/Type42Converter.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
-#include <fstream>
+#include <cstdio>
+#include <sstream>
 
 namespace orvan {
 namespace {
@@ -28,84 +28,83 @@ Bytes fontFile(const std::string& relative)
     return font;
 }
 
-std::uint16_t numGlyphsOf(const Bytes& font)
+struct RealFontCase
 {
-    const auto maxp = find_table("maxp", font);
-    return maxp ? readU16(font, maxp->offset + 4) : 0;
-}
+    const char* name;
+    const char* path;
+    const char* postScriptName;
+    std::vector<const char*> encodingLines;
+};
 
-class RealFont : public testing::TestWithParam<const char*>
+class RealFont : public testing::TestWithParam<RealFontCase>
 {
 };
 
-// "dejavu/DejaVuSans-Bold.ttf" gives "DejaVuSansBold".
-std::string testName(std::string_view path)
+// The sfnts array rebuilt from the file and the string lengths alone: strings
+// of at most 65534 bytes covering the file, a line feed after the byte at file
+// position i when (i + 2s) % 30 is 29, s being the number of strings before
+// it. Every glyph in CharStrings in glyph order, glyph 0 as .notdef.
+TEST_P(RealFont, ProgramCarriesTheWholeFileAndEveryGlyph)
 {
-    path = path.substr(path.rfind('/') + 1);
-    path = path.substr(0, path.rfind('.'));
-    std::string name;
-    for (char c : path) {
-        if (std::isalnum(static_cast<unsigned char>(c)))
-            name += c;
-    }
-    return name;
-}
-
-TEST_P(RealFont, ProgramCarriesTheWholeFileInStringsWithinTheLimit)
-{
-    const Bytes font = fontFile(GetParam());
+    const Bytes font = fontFile(GetParam().path);
     ASSERT_FALSE(font.empty());
+    EXPECT_EQ(fontPostScriptName(font), GetParam().postScriptName);
     std::string program;
     ASSERT_EQ(convertTTFtoPS42(font, "Real", program), Type42Result::Converted);
 
     const auto strings = sfntsStrings(program);
     ASSERT_TRUE(strings);
-    Bytes joined;
-    for (const Bytes& string : *strings) {
-        EXPECT_LE(string.size(), 65534u);
-        joined.insert(joined.end(), string.begin(), string.end());
-    }
-    EXPECT_EQ(joined, font);
-
-    // The text of the array, rebuilt byte by byte from the string lengths:
-    // a line feed after the byte at file position i when (i + 2s) % 30 is 29,
-    // s being the number of strings before it.
     std::string expected = "/sfnts [\n";
     std::size_t position = 0;
     for (std::size_t s = 0; s < strings->size(); ++s) {
+        const std::size_t end = position + strings->at(s).size();
+        ASSERT_LE(end - position, 65534u);
+        ASSERT_LE(end, font.size());
         expected += '<';
-        for (std::size_t i = position; i < position + strings->at(s).size(); ++i) {
-            static constexpr char digits[] = "0123456789ABCDEF";
-            expected += digits[font[i] >> 4];
-            expected += digits[font[i] & 15];
+        for (std::size_t i = position; i < end; ++i) {
+            expected += "0123456789ABCDEF"[font[i] >> 4];
+            expected += "0123456789ABCDEF"[font[i] & 15];
             if ((i + 2 * s) % 30 == 29)
                 expected += '\n';
         }
         expected += "00>";
-        position += strings->at(s).size();
+        position = end;
     }
-    expected += "] def\n";
-    EXPECT_TRUE(sfntsText(program) == expected);
+    EXPECT_EQ(position, font.size());
+    EXPECT_TRUE(sfntsText(program) == expected + "] def\n");
+
+    // "/NAME GLYPH def" lines from the CharStrings line to its "end".
+    std::istringstream lines(program.substr(program.find("/CharStrings")));
+    std::string line;
+    std::getline(lines, line);
+    std::vector<std::string> names;
+    char name[256];
+    int glyph = 0;
+    while (std::getline(lines, line) &&
+           std::sscanf(line.c_str(), "/%255s %d def", name, &glyph) == 2) {
+        EXPECT_EQ(glyph, static_cast<int>(names.size()));
+        names.emplace_back(name);
+    }
+    EXPECT_EQ(line, "end readonly def");
+    ASSERT_EQ(names.size(), readU16(font, find_table("maxp", font)->offset + 4));
+    EXPECT_EQ(names.front(), ".notdef");
+    for (const char* line : GetParam().encodingLines)
+        EXPECT_NE(program.find(line), std::string::npos) << line;
 }
 
-TEST_P(RealFont, EveryNamedGlyphIsInCharStringsInGlyphOrder)
-{
-    const Bytes font = fontFile(GetParam());
-    ASSERT_FALSE(font.empty());
-    const auto entries = charStringsOf(convertQuietly(font));
-    ASSERT_EQ(entries.size(), numGlyphsOf(font));
-    EXPECT_EQ(entries.front(), std::make_pair(std::string(".notdef"), 0));
-    for (std::size_t g = 0; g < entries.size(); ++g)
-        EXPECT_EQ(entries[g].second, static_cast<int>(g));
-    EXPECT_TRUE(std::any_of(entries.begin(), entries.end(),
-                            [](const auto& entry) { return entry.first == "A"; }));
-}
-
+// Liberation names its space and hyphen glyphs uni00A0 and uni00AD, so
+// codes 32 and 45 find no glyph of their StandardEncoding name and are given
+// to the first glyphs left unencoded: .null and CR (the historical spelling).
 INSTANTIATE_TEST_SUITE_P(Type42, RealFont,
-                         testing::Values("dejavu/DejaVuSans.ttf", "dejavu/DejaVuSerif-Bold.ttf",
-                                         "liberation/LiberationSans-Regular.ttf",
-                                         "liberation/LiberationMono-Italic.ttf"),
-                         [](const auto& info) { return testName(info.param); });
+                         testing::Values(
+                             // clang-format off
+        RealFontCase{"DejaVuSans", "dejavu/DejaVuSans.ttf", "DejaVuSans", {"dup 32 /space put\n", "dup 65 /A put\n"}},
+        RealFontCase{"DejaVuSerifBold", "dejavu/DejaVuSerif-Bold.ttf", "DejaVuSerif-Bold", {"dup 65 /A put\n"}},
+        RealFontCase{"LiberationSans", "liberation/LiberationSans-Regular.ttf", "LiberationSans",
+                     {"dup 32 /.null put\n", "dup 45 /CR put\n", "dup 65 /A put\n"}},
+        RealFontCase{"LiberationMonoItalic", "liberation/LiberationMono-Italic.ttf", "LiberationMono-Italic", {"dup 65 /A put\n"}}),
+                         // clang-format on
+                         [](const auto& info) { return std::string(info.param.name); });
 
 // Its large tables leave no break point within 65534 bytes after the first
 // string, which ends where hmtx starts.
@@ -117,30 +116,14 @@ TEST(Type42RealFontCutShort, DroidSansFallbackStopsAfterTheFirstString)
     ASSERT_EQ(convertTTFtoPS42(font, "DroidSansFallback", program), Type42Result::CutShort);
     const auto hmtx = find_table("hmtx", font);
     ASSERT_TRUE(hmtx);
-    const auto strings = sfntsStrings(program);
-    ASSERT_TRUE(strings);
-    ASSERT_EQ(strings->size(), 1u);
-    EXPECT_EQ(strings->front(), Bytes(font.begin(), font.begin() + hmtx->offset));
-    EXPECT_EQ(program.substr(program.size() - 3), "00>");
-    EXPECT_EQ(program.find("00>] def"), std::string::npos);
-    EXPECT_EQ(program.find("/CharStrings"), std::string::npos);
-}
-
-// Liberation names its space and hyphen glyphs uni00A0 and uni00AD, so
-// codes 32 and 45 find no glyph of their StandardEncoding name and are given
-// to the first glyphs left unencoded: .null and CR (the historical spelling).
-TEST(Type42RealFontEncoding, LiberationGivesSpaceAndHyphenCodesToUnencodedGlyphs)
-{
-    const Bytes font = fontFile("liberation/LiberationSans-Regular.ttf");
-    ASSERT_FALSE(font.empty());
-    const auto encoding = encodingOf(convertQuietly(font));
-    EXPECT_EQ(encoding.at(32), ".null");
-    EXPECT_EQ(encoding.at(45), "CR");
-    EXPECT_EQ(encoding.at(65), "A");
+    EXPECT_TRUE(program.ends_with("00>"));
+    EXPECT_EQ(sfntsStrings(program),
+              std::vector<Bytes>{Bytes(font.begin(), font.begin() + hmtx->offset)});
 }
 
 struct RenderCase
 {
+    const char* name;
     const char* font;
     const char* text;
 };
@@ -150,67 +133,60 @@ class GhostscriptRendering : public testing::TestWithParam<RenderCase>
 protected:
     void SetUp() override
     {
-        if (!commandExists("gs"))
+        if (QStandardPaths::findExecutable("gs").isEmpty())
             GTEST_SKIP() << "Ghostscript (gs) is not installed";
-        ASSERT_TRUE(dir_.valid());
+        ASSERT_TRUE(m_dir.isValid());
     }
 
-    // A page drawing `text` with `font` at 24 points.
-    std::string page(const std::string& fontSetup, const std::string& font) const
+    // The text drawn at 24 points in `font`, defined by `setup`, through the
+    // gs device `device`: what gs wrote.
+    QByteArray render(const std::string& setup, const char* font, const QString& device)
     {
-        return fontSetup + "/" + font + " findfont 24 scalefont setfont\n" + "20 30 moveto (" +
-               GetParam().text + ") show\nshowpage\n";
+        const QString page = m_dir.filePath("page.ps");
+        std::ofstream(page.toStdString(), std::ios::binary)
+            << "%!PS\n"
+            << setup << "/" << font << " findfont 24 scalefont setfont\n20 30 moveto ("
+            << GetParam().text << ") show\nshowpage\n";
+        QProcess gs;
+        gs.start("gs", {"-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-r72", "-g460x80",
+                        "-sFONTMAP=" + m_dir.filePath("Fontmap"), "-sDEVICE=" + device,
+                        "-sOutputFile=-", page});
+        EXPECT_TRUE(gs.waitForFinished(60000));
+        EXPECT_EQ(gs.exitCode(), 0) << gs.readAllStandardError().toStdString();
+        return gs.readAllStandardOutput();
     }
 
-    // Runs gs on `postScript` with `device`; returns what it wrote.
-    std::string render(const std::string& postScript, const std::string& device,
-                       const std::string& fontMap)
-    {
-        const std::string input = dir_.path() + "/page.ps";
-        std::ofstream(input, std::ios::binary) << postScript;
-        const CommandResult result =
-            runCommand("gs -q -dNOPAUSE -dBATCH -dSAFER -r72 -g460x80 -sFONTMAP=" + fontMap +
-                       " -sDEVICE=" + device + " -sOutputFile=- " + input);
-        EXPECT_EQ(result.status, 0) << result.error;
-        return result.output;
-    }
-
-    TemporaryDirectory dir_;
+    QTemporaryDir m_dir;
 };
 
 TEST_P(GhostscriptRendering, Type42ProgramDrawsLikeTheTrueTypeFile)
 {
-    const std::string path = kFonts + GetParam().font;
-    const Bytes font = fontFile(GetParam().font);
-    ASSERT_FALSE(font.empty());
     std::string program;
-    ASSERT_EQ(convertTTFtoPS42(font, "OrvanType42Test", program), Type42Result::Converted);
-
+    ASSERT_EQ(convertTTFtoPS42(fontFile(GetParam().font), "OrvanType42Test", program),
+              Type42Result::Converted);
     // The reference loads the TrueType file itself through a font map.
-    const std::string fontMap = dir_.path() + "/Fontmap";
-    std::ofstream(fontMap) << "/OrvanTrueTypeReference (" << path << ") ;\n";
-    const std::string converted = page("%!PS\n" + program, "OrvanType42Test");
-    const std::string reference = page("%!PS\n", "OrvanTrueTypeReference");
+    std::ofstream(m_dir.filePath("Fontmap").toStdString())
+        << "/OrvanTrueTypeReference (" << kFonts << GetParam().font << ") ;\n";
 
-    const std::string text = render(converted, "txtwrite", fontMap);
-    EXPECT_NE(text.find(GetParam().text), std::string::npos) << text;
-    EXPECT_EQ(text, render(reference, "txtwrite", fontMap));
+    const QByteArray text = render(program, "OrvanType42Test", "txtwrite");
+    EXPECT_TRUE(text.contains(GetParam().text)) << text.toStdString();
+    EXPECT_EQ(text, render("", "OrvanTrueTypeReference", "txtwrite"));
 
-    const std::string pixels = render(converted, "pgmraw", fontMap);
-    ASSERT_GT(pixels.size(), 460u * 80u);
+    const QByteArray pixels = render(program, "OrvanType42Test", "pgmraw");
+    ASSERT_GT(pixels.size(), 460 * 80);
     // Ink on the page, and the same ink as the TrueType file gives.
-    EXPECT_NE(pixels.find('\0', pixels.size() - 460u * 80u), std::string::npos);
-    EXPECT_TRUE(pixels == render(reference, "pgmraw", fontMap)) << "pixels differ";
+    EXPECT_TRUE(pixels.right(460 * 80).contains('\0'));
+    EXPECT_TRUE(pixels == render("", "OrvanTrueTypeReference", "pgmraw")) << "pixels differ";
 }
 
 // Liberation's text avoids space and hyphen (see above).
 INSTANTIATE_TEST_SUITE_P(
     Type42, GhostscriptRendering,
-    testing::Values(RenderCase{"dejavu/DejaVuSans.ttf",
+    testing::Values(RenderCase{"DejaVuSans", "dejavu/DejaVuSans.ttf",
                                "Sphinx of black quartz, judge my vow 0123456789"},
-                    RenderCase{"liberation/LiberationSerif-Bold.ttf",
+                    RenderCase{"LiberationSerifBold", "liberation/LiberationSerif-Bold.ttf",
                                "Sphinx_of_black_quartz,judge_my_vow:0123456789"}),
-    [](const auto& info) { return testName(info.param.font); });
+    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace orvan

@@ -1,15 +1,13 @@
 // orvan-type42, the command-line tool, run as users run it.
+#include "Type42TestSupport.h"
 
-#include "SfntBuilder.h"
-#include "ShellCommand.h"
-#include "Type42Program.h"
-#include "watermark/type42/Type42Converter.h"
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <sys/stat.h>
 
 namespace orvan {
@@ -17,17 +15,30 @@ namespace {
 
 using namespace orvan::test;
 
-const std::string kTool = std::string(ORVAN_BINARY_DIR) + "/bin/orvan-type42";
-const std::string kDejaVu = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+const QString kDejaVu = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+const QString kDroid = "/usr/share/fonts/truetype/droid/DroidSansFallbackFull.ttf";
 
-CommandResult tool(const std::string& arguments)
+struct ToolRun
 {
-    return runCommand(kTool + " " + arguments);
+    int status = -1; // -1 when the tool did not exit normally
+    std::string output, error;
+};
+
+ToolRun tool(const QStringList& arguments, const QString& input = {})
+{
+    QProcess process;
+    if (!input.isEmpty())
+        process.setStandardInputFile(input);
+    process.start(ORVAN_BINARY_DIR "/bin/orvan-type42", arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
 }
 
-std::string libraryProgram(const std::string& path, std::string_view name)
+std::string libraryProgram(const QString& path, std::string_view name)
 {
-    return convertQuietly(readFileBytes(path), name);
+    return convertQuietly(readFileBytes(path.toStdString()), name);
 }
 
 bool isOneLine(const std::string& text)
@@ -35,110 +46,109 @@ bool isOneLine(const std::string& text)
     return !text.empty() && text.find('\n') == text.size() - 1;
 }
 
-class Type42Tool : public testing::Test
+// The program of the font under its own name or the one given, from a file
+// or standard input; a program cut short is written with a warning.
+TEST(Type42Tool, WritesTheProgram)
 {
-protected:
-    void SetUp() override { ASSERT_TRUE(dir_.valid()); }
-
-    std::string write(const std::string& name, const Bytes& bytes)
+    const struct
     {
-        const std::string path = dir_.path() + "/" + name;
-        std::ofstream(path, std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()),
-                   static_cast<std::streamsize>(bytes.size()));
-        return path;
+        QStringList arguments;
+        QString input, font;
+        const char* name;
+        bool warns;
+    } cases[] = {
+        {{kDejaVu}, {}, kDejaVu, "DejaVuSans", false},
+        {{"-"}, kDejaVu, kDejaVu, "DejaVuSans", false},
+        {{kDejaVu, "Orvan-Watermark"}, {}, kDejaVu, "Orvan-Watermark", false},
+        {{kDroid}, {}, kDroid, "DroidSansFallback", true},
+    };
+    for (const auto& c : cases) {
+        const ToolRun result = tool(c.arguments, c.input);
+        EXPECT_EQ(result.status, 0) << c.name;
+        EXPECT_TRUE(result.output == libraryProgram(c.font, c.name)) << c.name;
+        if (c.warns)
+            EXPECT_TRUE(isOneLine(result.error) &&
+                        result.error.find("warning") != std::string::npos)
+                << result.error;
+        else
+            EXPECT_EQ(result.error, "");
     }
-
-    TemporaryDirectory dir_;
-};
-
-TEST_F(Type42Tool, WritesTheProgramUnderTheFontsOwnName)
-{
-    const CommandResult result = tool(kDejaVu);
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.error, "");
-    EXPECT_TRUE(result.output == libraryProgram(kDejaVu, "DejaVuSans"));
-    EXPECT_TRUE(tool("- < " + kDejaVu).output == result.output);
 }
 
-TEST_F(Type42Tool, UsesTheNameGivenOnTheCommandLine)
+TEST(Type42Tool, ReplacesTheOutputFileWholeAndLeavesNoTemporaryFile)
 {
-    const CommandResult result = tool(kDejaVu + " Orvan-Watermark");
-    EXPECT_EQ(result.status, 0);
-    EXPECT_TRUE(result.output == libraryProgram(kDejaVu, "Orvan-Watermark"));
-}
+    QTemporaryDir dir;
+    const QString out = dir.filePath("font.t42");
+    QFile old(out);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old contents");
+    old.close();
+    ::chmod(QFile::encodeName(out).constData(), 0640);
 
-TEST_F(Type42Tool, ReplacesTheOutputFileWholeAndLeavesNoTemporaryFile)
-{
-    const std::string out = dir_.path() + "/font.t42";
-    std::ofstream(out) << "old contents";
-    ::chmod(out.c_str(), 0640);
-    const CommandResult result = tool("-o " + out + " " + kDejaVu + " Named");
+    const ToolRun result = tool({"-o", out, kDejaVu, "Named"});
     EXPECT_EQ(result.status, 0) << result.error;
     EXPECT_EQ(result.output, "");
-    const Bytes written = readFileBytes(out);
-    const std::string expected = libraryProgram(kDejaVu, "Named");
-    EXPECT_TRUE(std::string(written.begin(), written.end()) == expected);
-    struct stat info
-    {
-    };
-    ASSERT_EQ(::stat(out.c_str(), &info), 0);
+    const Bytes written = readFileBytes(out.toStdString());
+    EXPECT_TRUE(std::string(written.begin(), written.end()) == libraryProgram(kDejaVu, "Named"));
+    struct stat info = {};
+    ASSERT_EQ(::stat(QFile::encodeName(out).constData(), &info), 0);
     EXPECT_EQ(info.st_mode & 0777, 0640u);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.path()),
-                            std::filesystem::directory_iterator()),
-              1);
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{"font.t42"});
 }
 
-TEST_F(Type42Tool, UsageErrorsExitWith2)
+// Usage errors exit with 2 and print the problem, then the synopsis; fonts
+// that cannot be read or converted, and files that cannot be written, exit
+// with 1 and one line.
+TEST(Type42Tool, ErrorsExitNonZeroWithAShortMessage)
 {
-    for (const std::string arguments :
-         {"", "a.ttf b c", "--frobnicate a.ttf", "a.ttf -o", "a.ttf -o x -o y", "a.ttf ''"}) {
-        const CommandResult result = tool(arguments);
-        EXPECT_EQ(result.status, 2) << arguments;
-        EXPECT_EQ(result.output, "") << arguments;
-        // The problem, then the synopsis.
-        EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '\n'), 2) << result.error;
-        EXPECT_NE(result.error.find("\nUsage: orvan-type42 FONT.ttf"), std::string::npos);
-    }
-    const CommandResult help = tool("--help");
-    EXPECT_EQ(help.status, 0);
-    EXPECT_EQ(help.output.rfind("Usage: orvan-type42", 0), 0u);
-}
-
-TEST_F(Type42Tool, FailuresGiveOneLineAndExit1)
-{
-    HeadFields badMagic;
-    badMagic.magicNumber = 0;
-    const Bytes noName = minimalFont().build();
-    const std::string cases[] = {
-        dir_.path() + "/missing.ttf",
-        dir_.path(),
-        write("magic.ttf", minimalFont(1, badMagic).build()),
-        write("short.ttf", Bytes(20, 0)),
-        write("noname.ttf", noName),
-        kDejaVu + " -o " + dir_.path() + "/no/such/folder/out.t42",
+    QTemporaryDir dir;
+    const auto write = [&dir](const QString& name, const Bytes& bytes) {
+        QFile file(dir.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(reinterpret_cast<const char*>(bytes.data()), qint64(bytes.size()));
+        return file.fileName();
     };
-    for (const std::string& arguments : cases) {
-        const CommandResult result = tool(arguments);
-        EXPECT_EQ(result.status, 1) << arguments;
-        EXPECT_EQ(result.output, "") << arguments;
-        EXPECT_TRUE(isOneLine(result.error)) << arguments << ": " << result.error;
-        EXPECT_EQ(result.error.rfind("orvan-type42: ", 0), 0u) << result.error;
-        EXPECT_EQ(result.error.find("DEBUG"), std::string::npos) << result.error;
+    const QString magic = write("magic.ttf", build(vitalTables({.magic = 0})));
+    const QString noName = write("noname.ttf", build(vitalTables()));
+    const struct
+    {
+        QStringList arguments;
+        int status;
+    } cases[] = {
+        {{}, 2},
+        {{"a.ttf", "b", "c"}, 2},
+        {{"--frobnicate", "a.ttf"}, 2},
+        {{"a.ttf", "-o"}, 2},
+        {{"a.ttf", "-o", "x", "-o", "y"}, 2},
+        {{"a.ttf", ""}, 2},
+        {{dir.filePath("missing.ttf")}, 1},
+        {{dir.path()}, 1},
+        {{magic}, 1},
+        {{write("short.ttf", Bytes(20, 0))}, 1},
+        {{noName}, 1},
+        {{kDejaVu, "-o", dir.filePath("no/such/folder/out.t42")}, 1},
+    };
+    for (const auto& c : cases) {
+        const ToolRun result = tool(c.arguments);
+        const std::string shown = c.arguments.join(' ').toStdString();
+        EXPECT_EQ(result.status, c.status) << shown;
+        EXPECT_EQ(result.output, "") << shown;
+        if (c.status == 2) {
+            EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '\n'), 2) << shown;
+            EXPECT_NE(result.error.find("\nUsage: orvan-type42 FONT.ttf"), std::string::npos);
+        } else {
+            EXPECT_TRUE(isOneLine(result.error) && result.error.starts_with("orvan-type42: ") &&
+                        result.error.find("DEBUG") == std::string::npos)
+                << shown << ": " << result.error;
+        }
     }
-    EXPECT_NE(tool(dir_.path() + "/magic.ttf").error.find("bad magic number"), std::string::npos);
+    EXPECT_NE(tool({magic}).error.find("bad magic number"), std::string::npos);
     // A font without a name of its own converts once it is given one.
-    EXPECT_EQ(tool(dir_.path() + "/noname.ttf Given").status, 0);
-}
-
-TEST_F(Type42Tool, ProgramCutShortIsWrittenWithAWarning)
-{
-    const std::string droid = "/usr/share/fonts/truetype/droid/DroidSansFallbackFull.ttf";
-    const CommandResult result = tool(droid);
-    EXPECT_EQ(result.status, 0);
-    EXPECT_TRUE(isOneLine(result.error)) << result.error;
-    EXPECT_NE(result.error.find("warning"), std::string::npos);
-    EXPECT_TRUE(result.output == libraryProgram(droid, "DroidSansFallback"));
+    EXPECT_EQ(tool({noName, "Given"}).status, 0);
+    const ToolRun help = tool({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.output.starts_with("Usage: orvan-type42"));
 }
 
 } // namespace
