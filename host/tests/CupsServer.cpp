@@ -60,6 +60,36 @@ void stopProcess(QProcess& process)
     }
 }
 
+// True when the process holds the socket that listens on 127.0.0.1:port. A
+// server whose port was taken in the meantime keeps running without a
+// listener, and whatever answers on the port is then someone else.
+bool listensOn(qint64 pid, int port)
+{
+    QFile table(QStringLiteral("/proc/net/tcp"));
+    if (!table.open(QIODevice::ReadOnly))
+        return true; // no way to tell: trust the answer
+    const QByteArray local =
+        "0100007F:" + QByteArray::number(port, 16).toUpper().rightJustified(4, '0');
+    QByteArray inode;
+    for (const QByteArray& line : table.readAll().split('\n')) {
+        const QList<QByteArray> fields = line.simplified().split(' ');
+        if (fields.size() > 9 && fields[1] == local && fields[3] == "0A")
+            inode = fields[9];
+    }
+    if (inode.isEmpty())
+        return false;
+    const QByteArray socket = "socket:[" + inode + ']';
+    const QDir fds(QStringLiteral("/proc/%1/fd").arg(pid));
+    for (const QString& fd : fds.entryList(QDir::System | QDir::NoDotAndDotDot)) {
+        char target[64];
+        const ssize_t length =
+            readlink(QFile::encodeName(fds.filePath(fd)).constData(), target, sizeof target);
+        if (length > 0 && QByteArray(target, static_cast<qsizetype>(length)) == socket)
+            return true;
+    }
+    return false;
+}
+
 bool writeFile(const QString& path, const QByteArray& text, QString* error)
 {
     QFile file(path);
@@ -303,8 +333,12 @@ bool CupsServer::launch(QString* error)
                               errorLog().trimmed());
             return false;
         }
-        if (answers())
-            return true;
+        if (answers()) {
+            if (listensOn(m_daemon.processId(), m_port))
+                return true;
+            *error = QStringLiteral("another server answers on %1").arg(address());
+            return false;
+        }
         std::this_thread::sleep_for(kPollInterval);
     }
     *error = QStringLiteral("cupsd did not answer on %1 within %2 s: %3")
@@ -463,7 +497,8 @@ std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString&
                 ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
                              printer->uri().toUtf8().constData());
                 IppMessage response(cupsDoRequest(http.get(), request, "/ipp/print"));
-                if (response && ippGetStatusCode(response.get()) == IPP_STATUS_OK)
+                if (response && ippGetStatusCode(response.get()) == IPP_STATUS_OK &&
+                    listensOn(process.processId(), printer->m_port))
                     return printer;
             }
             std::this_thread::sleep_for(kPollInterval);
