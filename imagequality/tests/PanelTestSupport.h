@@ -2,9 +2,12 @@
 // plug-in's bundle in the build tree, and a session with one PPD choice set.
 #pragma once
 
+#include "imagequality/InvertImage.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/Bundle.h"
+#include "settings/DictionaryAccess.h"
 #include "settings/PrintSession.h"
+#include "settings/Ticket.h"
 
 #include <QString>
 #include <QStringList>
@@ -12,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <utility>
 
 // Readable QStrings in failure messages.
 inline void PrintTo(const QString& text, std::ostream* os)
@@ -67,6 +71,25 @@ inline void SetPpdChoice(PrintSession& session, const char* keyword, const char*
 {
     session.printSettings().ppdDictionary().insert(QLatin1String(keyword),
                                                    QString::fromLatin1(choice));
+}
+
+// The "NegativeImage" and "MirrorImage" numbers of the ticket's invert-image
+// options; -1 where absent.
+inline std::pair<long, long> InvertFlags(const Ticket& ticket)
+{
+    const PropertyValue* options = ticket.dictionary(kInvertImageOptionsKey);
+    long negative = -1, mirror = -1;
+    GetCFIndexFromCFDictionary(options, kNegativeImageKey, &negative);
+    GetCFIndexFromCFDictionary(options, kMirrorImageKey, &mirror);
+    return {negative, mirror};
+}
+
+inline void SetInvertFlags(Ticket& ticket, long negative, long mirror)
+{
+    PropertyValue options = PropertyValue::dictionary();
+    WriteTicketValue(&options, kNegativeImageKey, negative);
+    WriteTicketValue(&options, kMirrorImageKey, mirror);
+    ticket.setItem(kShellClient, kInvertImageOptionsKey, options);
 }
 
 // The strings of an array value (GetSummaryText's titles or values).
