@@ -10,6 +10,7 @@
 #include "shell/ShellTicketItems.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
@@ -264,6 +265,53 @@ TEST_F(PrintDialogTest, PrintOnACupsQueueSendsTheJobAndSavesItsTicket)
         EXPECT_EQ(status->attributes.value(keyword).compare(choice.toString(), Qt::CaseInsensitive),
                   0)
             << keyword.toStdString() << " = " << status->attributes.value(keyword).toStdString();
+}
+
+TEST_F(PrintDialogTest, SwitchingPrintersKeepsTheTicketAndDropsTheFetchedPpd)
+{
+    if (CupsServer::daemonPath().isEmpty())
+        GTEST_SKIP() << "cupsd is not installed";
+    QString why;
+    const auto server = CupsServer::start(&why);
+    ASSERT_TRUE(server) << why.toStdString();
+    ASSERT_TRUE(server->addFileQueue(QStringLiteral("Meridian"), SamplePpdPath(), &why))
+        << why.toStdString();
+    m_session.printSettings().setItem(QStringLiteral("com.example.editor"),
+                                      QStringLiteral("com.example.editor.Title"),
+                                      PropertyValue(QStringLiteral("Minutes")), true);
+    PrinterEntry queue;
+    queue.displayName = QStringLiteral("Meridian");
+    queue.queueName = QStringLiteral("Meridian");
+    QString fetched;
+    {
+        const auto dialog = makeDialog({queue, SamplePrinter()});
+        ASSERT_TRUE(m_session.currentPrinter());
+        fetched = m_session.currentPrinter()->ppdPath;
+        ASSERT_TRUE(QFile::exists(fetched));
+        auto* popup = dialog->findChild<QComboBox*>(QStringLiteral("PrinterPopup"));
+        ASSERT_TRUE(popup);
+        popup->setCurrentIndex(1);
+        emit popup->activated(1);
+        EXPECT_EQ(m_session.currentPrinter()->ppdPath, SamplePpdPath());
+        EXPECT_TRUE(dialog->findChild<QWidget*>(QStringLiteral("PluginPane")));
+
+        // Back on the queue: a fresh copy of its PPD replaces the first.
+        popup->setCurrentIndex(0);
+        emit popup->activated(0);
+        EXPECT_EQ(m_session.currentPrinter()->queueName, QStringLiteral("Meridian"));
+        EXPECT_FALSE(QFile::exists(fetched));
+        fetched = m_session.currentPrinter()->ppdPath;
+        EXPECT_TRUE(QFile::exists(fetched));
+        clickPrint(*dialog);
+        EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    }
+    EXPECT_FALSE(QFile::exists(fetched));
+    const TicketItem* kept =
+        m_session.printSettings().item(QStringLiteral("com.example.editor.Title"));
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->value.toString(), QStringLiteral("Minutes"));
+    EXPECT_TRUE(kept->locked);
+    EXPECT_EQ(m_session.printSettings().string(kControllerFamilyKey), QStringLiteral("Meridian"));
 }
 
 } // namespace
