@@ -1,6 +1,7 @@
 #include "imagequality/AdvancedPanel.h"
 
 #include "imagequality/AboutDialog.h"
+#include "imagequality/PanelPane.h"
 #include "imagequality/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "ui/LocalizedTitles.h"
@@ -30,21 +31,6 @@ const PopupRow kPopupRows[] = {
     {kBannerSheetControlID, "BannerSheetPopup", &kBannerSheetLabelKey},
     {kRequestOffsetControlID, "RequestOffsetPopup", &kRequestOffsetLabelKey},
 };
-
-QBoxLayout* PaneLayout(QWidget* parent)
-{
-    if (auto* layout = qobject_cast<QBoxLayout*>(parent->layout()))
-        return layout;
-    auto* layout = new QVBoxLayout(parent);
-    layout->setContentsMargins(12, 12, 12, 12);
-    return layout;
-}
-
-const Bundle* ShellBundle()
-{
-    const PDEShellContext* shell = CurrentShellContext();
-    return shell ? shell->bundle : nullptr;
-}
 
 } // namespace
 
@@ -87,7 +73,7 @@ AdvancedView::AdvancedView(AdvancedModel& model, const Bundle* bundle, QWidget* 
     layout->addStretch(1);
     layout->addLayout(bottom);
 
-    PaneLayout(parent)->addWidget(this);
+    PanelPaneLayout(parent)->addWidget(this);
     reloadMenus();
 }
 

@@ -1,5 +1,6 @@
 #include "imagequality/ImageOptionsPanel.h"
 
+#include "imagequality/PanelPane.h"
 #include "imagequality/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/Bundle.h"
@@ -36,22 +37,6 @@ QLabel* MakeLabel(const Bundle* bundle, const QString& key, QWidget* parent)
     font.setBold(true);
     label->setFont(font);
     return label;
-}
-
-// The pane's layout, made when the pane has none.
-QBoxLayout* PaneLayout(QWidget* parent)
-{
-    if (auto* layout = qobject_cast<QBoxLayout*>(parent->layout()))
-        return layout;
-    auto* layout = new QVBoxLayout(parent);
-    layout->setContentsMargins(12, 12, 12, 12);
-    return layout;
-}
-
-const Bundle* ShellBundle()
-{
-    const PDEShellContext* shell = CurrentShellContext();
-    return shell ? shell->bundle : nullptr;
 }
 
 } // namespace
@@ -100,7 +85,7 @@ ImageOptionsView::ImageOptionsView(ImageOptionsModel& model, const Bundle* bundl
     addSection(2, m_invertImagePicture, kInvertImageLabelKey, {m_negativeImage, m_mirrorImage});
     grid->setRowStretch(3, 1);
 
-    PaneLayout(parent)->addWidget(this);
+    PanelPaneLayout(parent)->addWidget(this);
 
     // activated and toggled-by-click are the user's choices; filling and
     // showing the model go through setters that emit neither.

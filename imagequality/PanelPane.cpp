@@ -1,0 +1,25 @@
+#include "imagequality/PanelPane.h"
+
+#include "shell/PDEShell.h"
+
+#include <QVBoxLayout>
+#include <QWidget>
+
+namespace orvan {
+
+QBoxLayout* PanelPaneLayout(QWidget* pane)
+{
+    if (auto* layout = qobject_cast<QBoxLayout*>(pane->layout()))
+        return layout;
+    auto* layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(12, 12, 12, 12);
+    return layout;
+}
+
+const Bundle* ShellBundle()
+{
+    const PDEShellContext* shell = CurrentShellContext();
+    return shell ? shell->bundle : nullptr;
+}
+
+} // namespace orvan
