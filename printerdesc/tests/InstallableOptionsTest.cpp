@@ -5,56 +5,42 @@
 #include "printerdesc/DeviceProfile.h"
 #include "settings/Bundle.h"
 
-#include <QTemporaryDir>
-
 namespace orvan {
 namespace {
 
 using testing::InstalledOptionsGuard;
+using testing::kSamplePpd;
 using testing::OpenOrFail;
-using testing::SamplePpdPath;
 using testing::TestPpdPath;
 using testing::WriteSampleVariant;
 
-QString OptionValue(const char* option)
-{
-    QString choice;
-    return getInstallableOptionValue(QString::fromUtf8(option), &choice) ? choice
-                                                                         : QStringLiteral("<none>");
-}
-
-TEST(InstallableOptions, SamplePrinterDefaultsShowEveryFeature)
+TEST(InstallableOptions, LoadedOnceFromTheDefaultsUntilUnloaded)
 {
     InstalledOptionsGuard guard;
-    PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
-    EXPECT_TRUE(LoadInstallableOptions(ppd.get(), _InstalledFeatures));
-    EXPECT_EQ(OptionValue("Option1"), QStringLiteral("Tray3HiCap"));
-    EXPECT_EQ(OptionValue("Option4"), QStringLiteral("True"));
-    EXPECT_EQ(OptionValue("Option5"), QStringLiteral("True"));
-    EXPECT_EQ(OptionValue("Option8"), QStringLiteral("True"));
-    EXPECT_EQ(OptionValue("Option9"), QStringLiteral("True"));
-    EXPECT_EQ(OptionValue("PageSize"), QStringLiteral("<none>"))
-        << "only the InstallableOptions group";
+    QTemporaryDir folder;
+    PpdFilePtr sample = OpenOrFail(kSamplePpd);
+    PpdFilePtr noStorage = OpenOrFail(WriteSampleVariant(folder, {{"Option8", "False"}}));
+    EXPECT_FALSE(LoadInstallableOptions(nullptr, _InstalledFeatures));
+    EXPECT_TRUE(LoadInstallableOptions(sample.get(), _InstalledFeatures));
+    EXPECT_FALSE(LoadInstallableOptions(noStorage.get(), _InstalledFeatures)) << "loaded already";
+    // Only the InstallableOptions group is recorded.
+    const std::pair<const char*, const char*> recorded[] = {
+        {"Option1", "Tray3HiCap"}, {"Option4", "True"}, {"Option5", "True"},
+        {"Option8", "True"},       {"Option9", "True"}, {"PageSize", nullptr}};
+    for (const auto& [option, choice] : recorded) {
+        QString value;
+        EXPECT_EQ(getInstallableOptionValue(option, &value), choice != nullptr) << option;
+        EXPECT_EQ(value, QString(choice)) << option;
+    }
     for (const char* feature : {"SingleStapleKey", "JobStorage", "FaxKey", "PostPrintInserterKey"})
         EXPECT_EQ(getInstalledFeature(feature), 1) << feature;
     EXPECT_EQ(getInstalledFeature("DualStapleKey"), 0) << "not in the table";
     EXPECT_EQ(getInstalledFeature(nullptr), 0);
-}
-
-TEST(InstallableOptions, LoadsOnceUntilUnloaded)
-{
-    InstalledOptionsGuard guard;
-    QTemporaryDir folder;
-    PpdFilePtr sample = OpenOrFail(SamplePpdPath());
-    PpdFilePtr variant = OpenOrFail(WriteSampleVariant(folder, {{"Option8", "False"}}));
-    EXPECT_TRUE(LoadInstallableOptions(sample.get(), _InstalledFeatures));
-    EXPECT_FALSE(LoadInstallableOptions(variant.get(), _InstalledFeatures));
-    EXPECT_EQ(getInstalledFeature("JobStorage"), 1) << "the second load changed nothing";
 
     UnloadInstallableOptions();
     EXPECT_EQ(getInstalledFeature("JobStorage"), 0);
-    EXPECT_FALSE(getInstallableOptionValue(QStringLiteral("Option8"), nullptr));
-    EXPECT_TRUE(LoadInstallableOptions(variant.get(), _InstalledFeatures));
+    EXPECT_FALSE(getInstallableOptionValue("Option8", nullptr));
+    EXPECT_TRUE(LoadInstallableOptions(noStorage.get(), _InstalledFeatures));
     EXPECT_EQ(getInstalledFeature("JobStorage"), 0);
     EXPECT_EQ(getInstalledFeature("FaxKey"), 1);
 }
@@ -64,44 +50,34 @@ TEST(InstallableOptions, ReadsTheDefaultsNotLeftoverMarks)
     InstalledOptionsGuard guard;
     PpdFilePtr ppd = OpenOrFail(TestPpdPath("latin1.ppd"));
     PpdMarkOption(ppd.get(), "Option4", "True");
-    EXPECT_FALSE(LoadInstallableOptions(nullptr, _InstalledFeatures));
     EXPECT_TRUE(LoadInstallableOptions(ppd.get(), _InstalledFeatures));
-    EXPECT_EQ(OptionValue("Option4"), QStringLiteral("False"));
+    QString finisher;
+    EXPECT_TRUE(getInstallableOptionValue("Option4", &finisher));
+    EXPECT_EQ(finisher, "False");
     EXPECT_EQ(getInstalledFeature("SingleStapleKey"), 0);
 }
 
-TEST(InstallableOptions, FeatureValuesAndNames)
-{
-    InstalledOptionsGuard installed(SamplePpdPath());
-    const Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en"));
-    long value = -1;
-    EXPECT_TRUE(getInstallableOptionTicketValue("PostPrintInserterKey", &value));
-    EXPECT_EQ(value, 10);
-    EXPECT_TRUE(getInstallableOptionTicketValue("JobStorage", &value));
-    EXPECT_EQ(value, 0);
-    value = -1;
-    EXPECT_FALSE(getInstallableOptionTicketValue("NoSuchFeature", &value));
-    EXPECT_EQ(value, -1);
-
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", &bundle),
-              QStringLiteral("1 Staple"));
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("PostPrintInserterKey", &bundle),
-              QStringLiteral("Post-Print Inserter"));
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("JobStorage", &bundle), std::nullopt)
-        << "no text key";
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", nullptr),
-              std::nullopt);
-}
-
-TEST(InstallableOptions, AbsentFeatureHasNoValueOrName)
+TEST(InstallableOptions, FeatureValuesAndTexts)
 {
     QTemporaryDir folder;
-    InstalledOptionsGuard noFinisher(WriteSampleVariant(folder, {{"Option4", "False"}}));
-    const Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en"));
-    long value = -1;
-    EXPECT_EQ(getInstalledFeature("SingleStapleKey"), 0);
-    EXPECT_FALSE(getInstallableOptionTicketValue("SingleStapleKey", &value));
-    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", &bundle),
+    const QString noFinisher = WriteSampleVariant(folder, {{"Option4", "False"}});
+    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
+    const std::tuple<QString, const char*, std::optional<long>, std::optional<QString>> cases[] = {
+        {kSamplePpd, "PostPrintInserterKey", 10, "Post-Print Inserter"},
+        {kSamplePpd, "SingleStapleKey", 0, "1 Staple"},
+        {kSamplePpd, "JobStorage", 0, std::nullopt}, // no text key
+        {kSamplePpd, "NoSuchFeature", std::nullopt, std::nullopt},
+        {noFinisher, "SingleStapleKey", std::nullopt, std::nullopt},
+    };
+    for (const auto& [ppd, feature, expected, text] : cases) {
+        InstalledOptionsGuard options(ppd);
+        long value = -1;
+        EXPECT_EQ(getInstalledFeature(feature), expected ? 1 : 0) << feature;
+        EXPECT_EQ(getInstallableOptionTicketValue(feature, &value), expected.has_value());
+        EXPECT_EQ(value, expected.value_or(-1)) << feature;
+        EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin(feature, &bundle), text);
+    }
+    EXPECT_EQ(CopyLocalizedStringForInstalledFeatureFromPlugin("SingleStapleKey", nullptr),
               std::nullopt);
 }
 
@@ -111,11 +87,10 @@ TEST(InstallableOptions, RowsWithoutAnOptionAlwaysHold)
         {"Always", nullptr, nullptr, "1 Staple", 7},
         {"Either", "Option4", "False", nullptr, 1},
         {"Either", "Option1", "Tray3HiCap", nullptr, 2},
-        {nullptr, nullptr, nullptr, nullptr, 0},
+        {},
     };
     InstalledOptionsGuard guard;
-    PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
-    LoadInstallableOptions(ppd.get(), table);
+    LoadInstallableOptions(OpenOrFail(kSamplePpd).get(), table);
     long value = 0;
     EXPECT_EQ(getInstalledFeature("Always"), 1);
     EXPECT_EQ(getInstalledFeature("Either"), 1) << "any row of the feature suffices";
@@ -125,12 +100,7 @@ TEST(InstallableOptions, RowsWithoutAnOptionAlwaysHold)
 
 TEST(DeviceMimic, PictureNameFollowsTraysAndFinisher)
 {
-    struct Case
-    {
-        const char* trays;
-        const char* finisher;
-        const char* picture;
-    } const cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"Tray2", "False", "Mimic_AQ_PLMS_2Tray.gif"},
         {"Tray1", "True", "Mimic_AQ_PLMS_1Tray_Finisher.gif"},
         {"Tray3", "False", "Mimic_AQ_PLMS_3Tray.gif"},
@@ -138,13 +108,13 @@ TEST(DeviceMimic, PictureNameFollowsTraysAndFinisher)
         {"Tray4", "True", "Mimic_AQ_PLMS_4Tray_Finisher.gif"},
     };
     QTemporaryDir folder;
-    for (const Case& c : cases) {
+    for (const auto& [trays, finisher, picture] : cases) {
         InstalledOptionsGuard options(
-            WriteSampleVariant(folder, {{"Option1", c.trays}, {"Option4", c.finisher}}));
-        EXPECT_EQ(CopyDeviceMimicFilename(), QString::fromUtf8(c.picture));
+            WriteSampleVariant(folder, {{"Option1", trays}, {"Option4", finisher}}));
+        EXPECT_EQ(CopyDeviceMimicFilename(), picture);
     }
     InstalledOptionsGuard nothingLoaded;
-    EXPECT_EQ(CopyDeviceMimicFilename(), QStringLiteral("Mimic_AQ_PLMS_.gif"));
+    EXPECT_EQ(CopyDeviceMimicFilename(), "Mimic_AQ_PLMS_.gif");
 }
 
 class DeviceProfileTest : public ::testing::Test
@@ -152,69 +122,53 @@ class DeviceProfileTest : public ::testing::Test
 protected:
     void SetUp() override { QDPFinalize(); }
     void TearDown() override { QDPFinalize(); }
-    Bundle m_bundle{QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en")};
+    Bundle m_bundle{ORVAN_PLUGIN_DIR, "en"};
 };
 
-TEST_F(DeviceProfileTest, FeaturesPropertiesAndSyntax)
+TEST_F(DeviceProfileTest, FeaturesPropertiesSyntaxAndKeywords)
 {
-    EXPECT_EQ(QDPGetFeature(QStringLiteral("Stapling")), nullptr) << "nothing before initialising";
+    EXPECT_EQ(QDPGetFeature("Stapling"), nullptr) << "nothing before initialising";
     ASSERT_TRUE(QDPInitialize(&m_bundle));
-    const PropertyValue* stapling = QDPGetFeature(QStringLiteral("Stapling"));
+    const PropertyValue* stapling = QDPGetFeature("Stapling");
     ASSERT_NE(stapling, nullptr);
-    EXPECT_EQ(QDPGetFeatureKeyword(stapling)->toString(), QStringLiteral("StapleLocation"));
-    EXPECT_EQ(QDPGetFeatureDefaultValue(stapling)->toString(), QStringLiteral("None"));
-    EXPECT_EQ(QDPGetFeatureSyntax(stapling, QStringLiteral("Number"))->toBool(), false);
-    EXPECT_EQ(QDPGetFeatureProperty(stapling, QStringLiteral("InstallableOption"))->toString(),
-              QStringLiteral("Option4"));
-    EXPECT_EQ(QDPGetFeatureProperty(stapling, QStringLiteral("Nothing")), nullptr);
-    EXPECT_EQ(QDPGetFeatureSyntax(nullptr, QStringLiteral("Default")), nullptr);
+    EXPECT_EQ(QDPGetFeatureKeyword(stapling)->toString(), "StapleLocation");
+    EXPECT_EQ(QDPGetFeatureDefaultValue(stapling)->toString(), "None");
+    EXPECT_EQ(QDPGetFeatureSyntax(stapling, "Number")->toBool(), false);
+    EXPECT_EQ(QDPGetFeatureProperty(stapling, "InstallableOption")->toString(), "Option4");
+    EXPECT_EQ(QDPGetFeatureProperty(stapling, "Nothing"), nullptr);
+    EXPECT_EQ(QDPGetFeatureSyntax(nullptr, "Default"), nullptr);
+    EXPECT_EQ(QDPGetFeatureDefaultValue(QDPGetFeature("Copies"))->toInteger(), 1);
 
-    const PropertyValue* copies = QDPGetFeature(QStringLiteral("Copies"));
-    ASSERT_NE(copies, nullptr);
-    EXPECT_EQ(QDPGetFeatureDefaultValue(copies)->toInteger(), 1);
-}
+    EXPECT_EQ(QDPGetFeaturesWithProperty("InstallableOption").size(), 7u);
+    EXPECT_EQ(QDPGetFeaturesWithProperty("NoSuchProperty").size(), 0u);
+    const PropertyValue finisher("Option4");
+    EXPECT_EQ(QDPGetFeaturesWithPropertyAndValue("InstallableOption", &finisher).size(), 3u);
+    PropertyValue keywords =
+        PropertyValue::array(); // by feature name: Folding, HolePunch, Stapling
+    for (const char* keyword : {"QVFold", "QVPunch", "StapleLocation"})
+        keywords.append(PropertyValue(keyword));
+    EXPECT_EQ(QDPGetKeywordsWithPropertyAndValue("InstallableOption", &finisher), keywords);
 
-TEST_F(DeviceProfileTest, FeaturesAndKeywordsByProperty)
-{
-    ASSERT_TRUE(QDPInitialize(&m_bundle));
-    EXPECT_EQ(QDPGetFeaturesWithProperty(QStringLiteral("InstallableOption")).size(), 7u);
-    const PropertyValue finisher = PropertyValue(QStringLiteral("Option4"));
-    EXPECT_EQ(
-        QDPGetFeaturesWithPropertyAndValue(QStringLiteral("InstallableOption"), &finisher).size(),
-        3u);
-    const PropertyValue keywords =
-        QDPGetKeywordsWithPropertyAndValue(QStringLiteral("InstallableOption"), &finisher);
-    PropertyValue expected = PropertyValue::array();
-    for (const char* keyword :
-         {"QVFold", "QVPunch", "StapleLocation"}) // by feature name: Folding, HolePunch, Stapling
-        expected.append(QString::fromUtf8(keyword));
-    EXPECT_EQ(keywords, expected);
-    EXPECT_EQ(QDPGetFeaturesWithProperty(QStringLiteral("NoSuchProperty")).size(), 0u);
+    QTemporaryDir empty;
+    const Bundle bare(empty.path());
+    QDPFinalize();
+    EXPECT_FALSE(QDPInitialize(&bare));
+    EXPECT_FALSE(QDPInitialize(nullptr));
+    EXPECT_EQ(QDPGetFeaturesWithProperty("Category").size(), 0u);
 }
 
 TEST_F(DeviceProfileTest, DefaultsAgreeWithTheSamplePrinter)
 {
     ASSERT_TRUE(QDPInitialize(&m_bundle));
-    PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
-    const PropertyValue features = QDPGetFeaturesWithProperty(QStringLiteral("Category"));
+    PpdFilePtr ppd = OpenOrFail(kSamplePpd);
+    const PropertyValue features = QDPGetFeaturesWithProperty("Category");
     ASSERT_GT(features.size(), 10u);
     for (const PropertyValue& feature : features.asArray()) {
         const QString keyword = QDPGetFeatureKeyword(&feature)->toString();
-        const auto ppdDefault = PPDCopyDefaultChoice(ppd.get(), keyword);
-        if (!ppdDefault)
-            continue; // carried by the ticket, not the PPD
-        EXPECT_EQ(QDPGetFeatureDefaultValue(&feature)->toString(), *ppdDefault)
-            << qPrintable(keyword);
+        if (const auto ppdDefault = PPDCopyDefaultChoice(ppd.get(), keyword)) // else in the ticket
+            EXPECT_EQ(QDPGetFeatureDefaultValue(&feature)->toString(), *ppdDefault)
+                << qPrintable(keyword);
     }
-}
-
-TEST_F(DeviceProfileTest, MissingProfileLoadsNothing)
-{
-    QTemporaryDir empty;
-    const Bundle bare(empty.path());
-    EXPECT_FALSE(QDPInitialize(&bare));
-    EXPECT_FALSE(QDPInitialize(nullptr));
-    EXPECT_EQ(QDPGetFeaturesWithProperty(QStringLiteral("Category")).size(), 0u);
 }
 
 } // namespace

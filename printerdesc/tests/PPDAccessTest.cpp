@@ -1,269 +1,185 @@
-// PPD access: the current PPD, choices and ticket values, texts and their
-// encodings, menus filled from a PPD option and the constraint check.
+// PPD access: choices and ticket values, the ticket's PPD dictionary, texts
+// and their encodings, menus filled from a PPD option, and the current PPD.
 #include "PpdTestSupport.h"
 
 #include "settings/PrintSession.h"
 #include "settings/Ticket.h"
 
-#include <QTemporaryDir>
-
 namespace orvan {
 namespace {
 
+using testing::kSamplePpd;
 using testing::OpenOrFail;
-using testing::SamplePpdPath;
 using testing::TestPpdPath;
 
-TEST(PPDChoiceValues, FirstMatchingRowWins)
+// Both directions scan the keyword's choice map in order: the first matching
+// row wins.
+TEST(PPDChoiceValues, FirstMatchingRowWinsBothWays)
 {
-    struct Case
-    {
-        const char* keyword;
-        const char* choice;
-        std::int32_t value;
-    } const cases[] = {
-        {"InputSlot", "Bypass", 100},
-        {"OutputBin", "Bottom", 5},
-        {"OutputBin", "PrinterDefault", kUnsetValue},
-        {"PageSize", "Custom", 75},
-        {"PageSize", "3x5", 80},
+    const std::tuple<const char*, const char*, std::int32_t> toValue[] = {
+        // clang-format off
+        {"InputSlot", "Bypass", 100}, {"OutputBin", "Bottom", 5}, {"OutputBin", "PrinterDefault", kUnsetValue},
+        {"PageSize", "Custom", 75}, {"PageSize", "3x5", 80}, {"QVSlipSheetType", "CardStockF", 43},
         {"MediaType", "CardStock", 12}, // the second "CardStock" row (43) is never reached
-        {"QVSlipSheetType", "CardStockF", 43},
-        {"QVFrontCoverSheet", "Tray3", 3},
-        {"QVImageQuality", "Darken5", 5},
-        {"Duplex", "Simplex", -1},     // not a choice of the map
-        {"NoSuchKeyword", "True", -1}, // not in the main keyword map
-        {"Option4", "True", -1},
+        {"QVFrontCoverSheet", "Tray3", 3}, {"QVImageQuality", "Darken5", 5},
+        {"Duplex", "Simplex", -1}, // not a choice of the map
+        {"NoSuchKeyword", "True", -1}, {"Option4", "True", -1}, {nullptr, "True", -1}, {"JCLBanner", nullptr, -1},
+        // clang-format on
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(
-            PPDTicketValueForChoice(QString::fromUtf8(c.keyword), QString::fromUtf8(c.choice)),
-            c.value)
-            << c.keyword << " " << c.choice;
-    }
-    EXPECT_EQ(PPDTicketValueForChoice(QString(), QStringLiteral("True")), -1);
-    EXPECT_EQ(PPDTicketValueForChoice(QStringLiteral("JCLBanner"), QString()), -1);
-}
+    for (const auto& [keyword, choice, value] : toValue)
+        EXPECT_EQ(PPDTicketValueForChoice(keyword, choice), value) << keyword << " " << choice;
 
-TEST(PPDChoiceValues, ChoiceForValueTakesTheFirstRow)
-{
-    struct Case
-    {
-        const char* keyword;
-        std::int32_t value;
-        const char* choice;
-    } const cases[] = {
-        {"OutputBin", 5, "Upper"},
-        {"MediaType", 43, "CardStock"},
-        {"QVFrontCoverSheet", 0, "Auto"},
-        {"QVSlipSheetSource", 100, "Bypass"},
-        {"Jog", 0, "None"},
-        {"QVImageQuality", -1, "Lighten1"},
-        {"OutputBin", kUnsetValue, "PrinterDefault"},
-        {"PageSize", 80, "3x5"},
-        {"OutputBin", 99, nullptr},
+    const std::tuple<const char*, std::int32_t, const char*> toChoice[] = {
+        // clang-format off
+        {"OutputBin", 5, "Upper"}, {"MediaType", 43, "CardStock"}, {"QVFrontCoverSheet", 0, "Auto"},
+        {"QVSlipSheetSource", 100, "Bypass"}, {"Jog", 0, "None"}, {"QVImageQuality", -1, "Lighten1"},
+        {"OutputBin", kUnsetValue, "PrinterDefault"}, {"PageSize", 80, "3x5"}, {"OutputBin", 99, nullptr},
         {"NoSuchKeyword", 1, nullptr},
+        // clang-format on
     };
-    for (const Case& c : cases) {
-        const char* choice = PPDChoiceForTicketValue(QString::fromUtf8(c.keyword), c.value);
-        if (c.choice)
-            EXPECT_STREQ(choice, c.choice) << c.keyword << " " << c.value;
-        else
-            EXPECT_EQ(choice, nullptr) << c.keyword << " " << c.value;
-    }
+    for (const auto& [keyword, value, choice] : toChoice)
+        EXPECT_STREQ(PPDChoiceForTicketValue(keyword, value), choice) << keyword << " " << value;
 }
 
 TEST(PPDTicketChoices, SetAndCopyThroughThePPDDictionary)
 {
     Ticket ticket;
-    PPDSetCurrentChoice(&ticket, QStringLiteral("InputSlot"), QStringLiteral("Tray2"));
-    EXPECT_EQ(PPDCopyCurrentChoice(&ticket, QStringLiteral("InputSlot")), QStringLiteral("Tray2"));
-    EXPECT_EQ(ticket.ppdDictionary().find(QStringLiteral("InputSlot"))->toString(),
-              QStringLiteral("Tray2"));
-    EXPECT_FALSE(ticket.containsItem(QStringLiteral("InputSlot")))
-        << "PPD choices are not ticket items";
-
-    EXPECT_EQ(PPDCopyCurrentChoice(&ticket, QStringLiteral("OutputBin")), std::nullopt);
-    EXPECT_EQ(PPDCopyCurrentChoice(nullptr, QStringLiteral("InputSlot")), std::nullopt);
+    PPDSetCurrentChoice(&ticket, "InputSlot", "Tray2");
+    EXPECT_EQ(PPDCopyCurrentChoice(&ticket, "InputSlot"), "Tray2");
+    EXPECT_EQ(ticket.ppdDictionary().find("InputSlot")->toString(), "Tray2");
+    EXPECT_FALSE(ticket.containsItem("InputSlot")) << "PPD choices are not ticket items";
+    // Null arguments change and give nothing.
+    PPDSetCurrentChoice(nullptr, "InputSlot", "Tray1");
+    PPDSetCurrentChoice(&ticket, "InputSlot", QString());
+    EXPECT_EQ(PPDCopyCurrentChoice(&ticket, "InputSlot"), "Tray2");
+    EXPECT_EQ(PPDCopyCurrentChoice(&ticket, "OutputBin"), std::nullopt);
+    EXPECT_EQ(PPDCopyCurrentChoice(nullptr, "InputSlot"), std::nullopt);
     EXPECT_EQ(PPDCopyCurrentChoice(&ticket, QString()), std::nullopt);
-    PPDSetCurrentChoice(nullptr, QStringLiteral("InputSlot"), QStringLiteral("Tray1"));
-    PPDSetCurrentChoice(&ticket, QStringLiteral("InputSlot"), QString());
-    EXPECT_EQ(PPDCopyCurrentChoice(&ticket, QStringLiteral("InputSlot")), QStringLiteral("Tray2"));
 }
 
-TEST(PPDTicketChoices, TicketChoiceOrPPDDefault)
+TEST(PPDTicketChoices, TicketChoiceOrThePPDsDefault)
 {
-    PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
-    Ticket ticket;
+    PpdFilePtr ppd = OpenOrFail(kSamplePpd);
+    const std::tuple<const char*, const char*, bool, std::int32_t> cases[] = {
+        {nullptr, "OutputBin", true, 1},       // the PPD's default, Auto
+        {"Center", "OutputBin", true, 5},      // the ticket's choice
+        {"Nowhere", "OutputBin", true, -1},    // an unknown choice is still stored
+        {nullptr, "NotAnOption", false, 1234}, // neither: the output is untouched
+    };
+    for (const auto& [ticketChoice, keyword, found, expected] : cases) {
+        Ticket ticket;
+        if (ticketChoice)
+            PPDSetCurrentChoice(&ticket, keyword, ticketChoice);
+        std::int32_t value = 1234;
+        EXPECT_EQ(PPDGetTicketValueForChoiceOrDefault(ppd.get(), &ticket, keyword, &value), found);
+        EXPECT_EQ(value, expected) << keyword;
+    }
     std::int32_t value = 1234;
-
-    EXPECT_TRUE(PPDGetTicketValueForChoiceOrDefault(ppd.get(), &ticket, QStringLiteral("OutputBin"),
-                                                    &value));
-    EXPECT_EQ(value, 1) << "the PPD's default, Auto";
-
-    PPDSetCurrentChoice(&ticket, QStringLiteral("OutputBin"), QStringLiteral("Center"));
-    EXPECT_TRUE(PPDGetTicketValueForChoiceOrDefault(ppd.get(), &ticket, QStringLiteral("OutputBin"),
-                                                    &value));
-    EXPECT_EQ(value, 5);
-
-    PPDSetCurrentChoice(&ticket, QStringLiteral("OutputBin"), QStringLiteral("Nowhere"));
-    EXPECT_TRUE(PPDGetTicketValueForChoiceOrDefault(ppd.get(), &ticket, QStringLiteral("OutputBin"),
-                                                    &value));
-    EXPECT_EQ(value, -1) << "an unknown choice is still stored, as -1";
-
-    value = 1234;
-    EXPECT_FALSE(PPDGetTicketValueForChoiceOrDefault(ppd.get(), &ticket,
-                                                     QStringLiteral("NotAnOption"), &value));
-    EXPECT_FALSE(
-        PPDGetTicketValueForChoiceOrDefault(nullptr, nullptr, QStringLiteral("OutputBin"), &value));
+    EXPECT_FALSE(PPDGetTicketValueForChoiceOrDefault(nullptr, nullptr, "OutputBin", &value));
     EXPECT_EQ(value, 1234);
 }
 
-TEST(PPDTexts, DefaultsAndChoiceTextsOfTheSamplePrinter)
+TEST(PPDTexts, DefaultsChoiceTextsAndEncodings)
 {
-    PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
-    EXPECT_EQ(PPDCopyDefaultChoice(ppd.get(), QStringLiteral("Option1")),
-              QStringLiteral("Tray3HiCap"));
-    EXPECT_EQ(PPDCopyDefaultChoice(ppd.get(), QStringLiteral("PageSize")),
-              QStringLiteral("Letter"));
-    EXPECT_EQ(PPDCopyDefaultChoice(ppd.get(), QStringLiteral("Nothing")), std::nullopt);
-    EXPECT_EQ(PPDCopyDefaultChoice(nullptr, QStringLiteral("PageSize")), std::nullopt);
+    PpdFilePtr sample = OpenOrFail(kSamplePpd);
+    EXPECT_EQ(PPDCopyDefaultChoice(sample.get(), "Option1"), "Tray3HiCap");
+    EXPECT_EQ(PPDCopyDefaultChoice(sample.get(), "PageSize"), "Letter");
+    EXPECT_EQ(PPDCopyDefaultChoice(sample.get(), "Nothing"), std::nullopt);
+    EXPECT_EQ(PPDCopyDefaultChoice(nullptr, "PageSize"), std::nullopt);
+    EXPECT_EQ(PPDCopyChoiceText(sample.get(), "OutputBin", "Bottom"), "Bottom Tray");
+    EXPECT_EQ(PPDCopyChoiceText(sample.get(), "OutputBin", "Nowhere"), std::nullopt);
+    EXPECT_EQ(PPDCopyChoiceText(sample.get(), "Nothing", "Bottom"), std::nullopt);
 
-    EXPECT_EQ(PPDCopyChoiceText(ppd.get(), QStringLiteral("OutputBin"), QStringLiteral("Bottom")),
-              QStringLiteral("Bottom Tray"));
-    EXPECT_EQ(PPDCopyChoiceText(ppd.get(), QStringLiteral("OutputBin"), QStringLiteral("Nowhere")),
-              std::nullopt);
-    EXPECT_EQ(PPDCopyChoiceText(ppd.get(), QStringLiteral("Nothing"), QStringLiteral("Bottom")),
-              std::nullopt);
-}
-
-TEST(PPDTexts, EncodingsFromTheLanguageEncodingEntry)
-{
     const QString graveA = QString::fromUtf8("Agrafe \u00e0 gauche");
-    struct Case
-    {
-        const char* file;
-        TextEncoding encoding;
-        QString stapleText;
-    } const cases[] = {
+    const std::tuple<const char*, TextEncoding, QString> cases[] = {
         {"utf8.ppd", TextEncoding::UTF8, graveA},
         {"utf8-nohyphen.ppd", TextEncoding::UTF8, graveA},
         {"latin1.ppd", TextEncoding::ISOLatin1, graveA},
         // Outside the known list: read as Mac Roman, where byte E0 is a double dagger.
         {"latin9.ppd", TextEncoding::MacRoman, QString::fromUtf8("Agrafe \u2021 gauche")},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.file);
-        PpdFilePtr ppd = OpenOrFail(TestPpdPath(c.file));
-        EXPECT_EQ(PPDGetEncoding(ppd.get()), c.encoding);
-        EXPECT_EQ(PPDCopyChoiceText(ppd.get(), QStringLiteral("StapleLocation"),
-                                    QStringLiteral("SinglePortrait")),
-                  c.stapleText);
+    for (const auto& [file, encoding, stapleText] : cases) {
+        PpdFilePtr ppd = OpenOrFail(TestPpdPath(file));
+        EXPECT_EQ(PPDGetEncoding(ppd.get()), encoding) << file;
+        EXPECT_EQ(PPDCopyChoiceText(ppd.get(), "StapleLocation", "SinglePortrait"), stapleText);
     }
     EXPECT_EQ(PPDGetEncoding(nullptr), TextEncoding::MacRoman);
-    EXPECT_EQ(PPDGetEncoding(OpenOrFail(SamplePpdPath()).get()), TextEncoding::ISOLatin1);
+    EXPECT_EQ(PPDGetEncoding(sample.get()), TextEncoding::ISOLatin1);
 }
 
 TEST(PPDMenus, ChoicesBecomeItemsWithTheirValues)
 {
-    PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
+    PpdFilePtr ppd = OpenOrFail(kSamplePpd);
     MenuModel menu;
     constexpr std::uint32_t kCommand = FourCharCode("Styp");
-    EXPECT_EQ(
-        PPDPopulateMenuWithChoices(&menu, ppd.get(), QStringLiteral("MediaType"), kCommand, false),
-        42);
-    EXPECT_EQ(menu.item(1)->text, QStringLiteral("Printer Default"));
-    EXPECT_EQ(menu.item(1)->referenceValue, 23);
-    EXPECT_EQ(menu.item(1)->commandId, kCommand);
-    const int cardStock = menu.findReferenceValue(12);
-    ASSERT_GT(cardStock, 0);
-    EXPECT_EQ(menu.item(cardStock)->text, QStringLiteral("Card Stock"));
-    EXPECT_EQ(menu.findReferenceValue(43), menu.findReferenceValue(12) + 3)
-        << "CardStockF carries 43";
-
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), "MediaType", kCommand, false), 42);
+    EXPECT_EQ(*menu.item(1), (MenuItem{"Printer Default", kCommand, 23, false}));
+    ASSERT_GT(menu.findReferenceValue(12), 0);
+    EXPECT_EQ(menu.item(menu.findReferenceValue(12))->text, "Card Stock");
+    EXPECT_EQ(menu.findReferenceValue(43), menu.findReferenceValue(12) + 3) << "CardStockF";
     // Rebuilt, not appended.
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), QStringLiteral("Duplex"), 0, false), 3);
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), "Duplex", 0, false), 3);
     EXPECT_EQ(menu.item(3)->referenceValue, 3);
-
     // The page sizes include the custom size libcups adds for a PPD with custom sizes.
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), QStringLiteral("PageSize"), 0, false),
-              55);
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), "PageSize", 0, false), 55);
     EXPECT_EQ(menu.item(55)->referenceValue, 75);
 }
 
 TEST(PPDMenus, ConflictingChoicesAreLeftOutWhenChecking)
 {
     // The sample printer has trays 1 and 2 and a high-capacity tray 3.
-    PpdFilePtr ppd = OpenOrFail(SamplePpdPath());
+    PpdFilePtr ppd = OpenOrFail(kSamplePpd);
     MenuModel menu;
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), QStringLiteral("InputSlot"), 0, false),
-              8);
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), QStringLiteral("InputSlot"), 0, true),
-              5);
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), "InputSlot", 0, false), 8);
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), "InputSlot", 0, true), 5);
     std::vector<std::int32_t> values;
     for (const MenuItem& item : menu.items())
         values.push_back(item.referenceValue);
     EXPECT_EQ(values, (std::vector<std::int32_t>{0, 1, 2, 3, 100}));
 }
 
+// The last choice tried stays marked although it conflicts; kept so.
 TEST(PPDMenus, CheckingLeavesTheLastTriedChoiceMarked)
 {
     // No finisher installed: single and multiple staples conflict with it.
     PpdFilePtr ppd = OpenOrFail(TestPpdPath("latin1.ppd"));
     MenuModel menu;
     ::testing::internal::CaptureStderr();
-    EXPECT_EQ(
-        PPDPopulateMenuWithChoices(&menu, ppd.get(), QStringLiteral("StapleLocation"), 0, true), 1);
-    const std::string diagnostics = ::testing::internal::GetCapturedStderr();
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd.get(), "StapleLocation", 0, true), 1);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              "Skipped unrecognized choice in PPD: Saddle\n");
     EXPECT_EQ(menu.item(1)->referenceValue, 1);
-    EXPECT_EQ(diagnostics, "Skipped unrecognized choice in PPD: Saddle\n");
-    // The last choice tried stays marked although it conflicts.
     EXPECT_EQ(PpdMarkedChoice(ppd.get(), "StapleLocation"), QByteArray("MultipleStaples"));
     EXPECT_GT(PpdMarkOption(ppd.get(), "Option4", "False"), 0);
-
-    ::testing::internal::CaptureStderr();
-    EXPECT_EQ(
-        PPDPopulateMenuWithChoices(&menu, ppd.get(), QStringLiteral("StapleLocation"), 0, false),
-        3);
-    ::testing::internal::GetCapturedStderr();
 }
 
 TEST(PPDMenus, DiagnosticsForMissingOptionsAndUnknownChoices)
 {
+    PpdFilePtr sample = OpenOrFail(kSamplePpd);
     PpdFilePtr noResolution = OpenOrFail(TestPpdPath("no-resolution.ppd"));
-    MenuModel menu;
-    menu.append(MenuItem{QStringLiteral("old"), 0, 0, false});
-    ::testing::internal::CaptureStderr();
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, noResolution.get(), QStringLiteral("Resolution"), 0,
-                                         true),
-              0);
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
-              "Expected PPD option not found: Resolution\n");
-    EXPECT_TRUE(menu.isEmpty());
-
-    // A keyword without a choice map: every choice is unknown.
-    PpdFilePtr sample = OpenOrFail(SamplePpdPath());
-    ::testing::internal::CaptureStderr();
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, sample.get(), QStringLiteral("Option4"), 0, false),
-              0);
-    EXPECT_EQ(
-        ::testing::internal::GetCapturedStderr(),
-        "Skipped unrecognized choice in PPD: True\nSkipped unrecognized choice in PPD: False\n");
-
-    // "Lighten1" maps to -1, which reads as unknown.
-    ::testing::internal::CaptureStderr();
-    EXPECT_EQ(
-        PPDPopulateMenuWithChoices(&menu, sample.get(), QStringLiteral("QVImageQuality"), 0, false),
-        10);
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
-              "Skipped unrecognized choice in PPD: Lighten1\n");
-
-    menu.append(MenuItem{QStringLiteral("kept"), 0, 0, false});
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, nullptr, QStringLiteral("Duplex"), 0, false), 0);
-    EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, sample.get(), QString(), 0, false), 0);
-    EXPECT_EQ(PPDPopulateMenuWithChoices(nullptr, sample.get(), QStringLiteral("Duplex"), 0, false),
-              0);
-    EXPECT_EQ(menu.count(), 11) << "the menu is not touched";
+    const std::tuple<ppd_file_t*, const char*, bool, int, const char*> cases[] = {
+        {noResolution.get(), "Resolution", true, 0, "Expected PPD option not found: Resolution\n"},
+        // A keyword without a choice map: every choice is unknown.
+        {sample.get(), "Option4", false, 0,
+         "Skipped unrecognized choice in PPD: True\nSkipped unrecognized choice in PPD: False\n"},
+        // "Lighten1" maps to -1, which reads as unknown.
+        {sample.get(), "QVImageQuality", false, 10,
+         "Skipped unrecognized choice in PPD: Lighten1\n"},
+    };
+    for (const auto& [ppd, keyword, check, items, printed] : cases) {
+        MenuModel menu;
+        menu.append({"old", 0, 0, false});
+        ::testing::internal::CaptureStderr();
+        EXPECT_EQ(PPDPopulateMenuWithChoices(&menu, ppd, keyword, 0, check), items);
+        EXPECT_EQ(::testing::internal::GetCapturedStderr(), printed);
+        EXPECT_EQ(menu.count(), items);
+    }
+    MenuModel kept;
+    kept.append({"kept", 0, 0, false});
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&kept, nullptr, "Duplex", 0, false), 0);
+    EXPECT_EQ(PPDPopulateMenuWithChoices(&kept, sample.get(), QString(), 0, false), 0);
+    EXPECT_EQ(PPDPopulateMenuWithChoices(nullptr, sample.get(), "Duplex", 0, false), 0);
+    EXPECT_EQ(kept.count(), 1) << "the menu is not touched";
 }
 
 class CurrentPPDTest : public ::testing::Test
@@ -279,10 +195,7 @@ protected:
         PPDCloseCurrent();
         SetCurrentPrintSession(nullptr);
     }
-    void usePPD(const QString& path)
-    {
-        m_session.setCurrentPrinter(Printer{QStringLiteral("queue"), path});
-    }
+    void usePPD(const QString& path) { m_session.setCurrentPrinter(Printer{"queue", path}); }
 
     PrintSession m_session;
 };
@@ -290,11 +203,10 @@ protected:
 TEST_F(CurrentPPDTest, OpenedOnceFromTheSessionsPrinter)
 {
     EXPECT_EQ(PPDGetCurrent(), nullptr) << "no printer yet";
-    usePPD(SamplePpdPath());
+    usePPD(kSamplePpd);
     ppd_file_t* first = PPDGetCurrent();
     ASSERT_NE(first, nullptr);
     EXPECT_TRUE(PPDIsOrvanPrinter(first));
-
     usePPD(TestPpdPath("orvan-systems.ppd"));
     EXPECT_EQ(PPDGetCurrent(), first) << "changing printers does not reopen";
     PPDCloseCurrent();
@@ -305,28 +217,28 @@ TEST_F(CurrentPPDTest, OpenedOnceFromTheSessionsPrinter)
 
 TEST_F(CurrentPPDTest, UnusablePathsGiveNull)
 {
-    usePPD(QStringLiteral("/nonexistent/printer.ppd"));
-    EXPECT_EQ(PPDGetCurrent(), nullptr);
-    usePPD(QStringLiteral("/tmp/") + QString(1100, QLatin1Char('x')));
-    EXPECT_EQ(PPDGetCurrent(), nullptr);
+    for (const QString& path :
+         {QString("/nonexistent/printer.ppd"), "/tmp/" + QString(1100, 'x')}) {
+        usePPD(path);
+        EXPECT_EQ(PPDGetCurrent(), nullptr) << path.size();
+    }
     SetCurrentPrintSession(nullptr);
     EXPECT_EQ(PPDGetCurrent(), nullptr);
 }
 
 TEST_F(CurrentPPDTest, MediaLimitsComeFromTheCustomSizeRange)
 {
-    double limits[4] = {};
-    GetMediaLimits(&limits[0], &limits[1], &limits[2], &limits[3]);
-    EXPECT_EQ((std::vector<double>(limits, limits + 4)), (std::vector<double>{432, 432, 864, 864}));
-
-    PPDSetCurrent(OpenOrFail(SamplePpdPath()));
-    GetMediaLimits(&limits[0], &limits[1], &limits[2], &limits[3]);
-    EXPECT_EQ((std::vector<double>(limits, limits + 4)),
-              (std::vector<double>{216, 360, 936, 1368}));
-
-    PPDSetCurrent(OpenOrFail(TestPpdPath("utf8.ppd"))); // no custom sizes
-    GetMediaLimits(&limits[0], &limits[1], &limits[2], &limits[3]);
-    EXPECT_EQ((std::vector<double>(limits, limits + 4)), (std::vector<double>{432, 432, 864, 864}));
+    const auto limits = [] {
+        std::vector<double> values(4);
+        GetMediaLimits(&values[0], &values[1], &values[2], &values[3]);
+        return values;
+    };
+    const std::vector<double> fallback = {432, 432, 864, 864};
+    EXPECT_EQ(limits(), fallback) << "no PPD";
+    PPDSetCurrent(OpenOrFail(kSamplePpd));
+    EXPECT_EQ(limits(), (std::vector<double>{216, 360, 936, 1368}));
+    PPDSetCurrent(OpenOrFail(TestPpdPath("utf8.ppd")));
+    EXPECT_EQ(limits(), fallback) << "no custom sizes";
 }
 
 } // namespace

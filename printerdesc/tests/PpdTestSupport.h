@@ -1,30 +1,31 @@
 // Shared fixtures of the printer description tests: the sample printer's PPD,
 // the small test PPDs, variants of the sample with other installed hardware,
-// and guards that leave the process-wide state as they found it.
+// and a guard that leaves the installed options as it found them.
 #pragma once
 
 #include "printerdesc/InstallableOptions.h"
 #include "printerdesc/PPDAccess.h"
 
 #include <QFile>
-#include <QString>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <utility>
-#include <vector>
+#include <tuple>
+
+// Readable QStrings in failure messages.
+inline void PrintTo(const QString& text, std::ostream* os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
 
 namespace orvan::testing {
 
-inline QString SamplePpdPath()
-{
-    return QStringLiteral(ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd");
-}
+inline const QString kSamplePpd = ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd";
 
 inline QString TestPpdPath(const char* name)
 {
-    return QStringLiteral(ORVAN_SOURCE_DIR "/printerdesc/tests/ppd/") + QString::fromUtf8(name);
+    return ORVAN_SOURCE_DIR "/printerdesc/tests/ppd/" + QString::fromUtf8(name);
 }
 
 // A copy of the sample PPD in `folder` with some "*Default<Option>: <choice>"
@@ -32,21 +33,16 @@ inline QString TestPpdPath(const char* name)
 inline QString WriteSampleVariant(const QTemporaryDir& folder,
                                   const std::vector<std::pair<QByteArray, QByteArray>>& defaults)
 {
-    QFile sample(SamplePpdPath());
-    EXPECT_TRUE(sample.open(QIODevice::ReadOnly));
+    QFile sample(kSamplePpd), out(folder.filePath("variant.ppd"));
+    EXPECT_TRUE(sample.open(QIODevice::ReadOnly) && out.open(QIODevice::WriteOnly));
     QByteArray text = sample.readAll();
     for (const auto& [option, choice] : defaults) {
-        const QByteArray key = "*Default" + option + ": ";
-        const qsizetype at = text.indexOf("\n" + key);
-        EXPECT_GE(at, 0) << option.constData();
-        const qsizetype end = text.indexOf('\n', at + 1);
-        text.replace(at + 1, end - at - 1, key + choice);
+        const qsizetype at = text.indexOf("\n*Default" + option + ": ") + 1;
+        EXPECT_GT(at, 0) << option.constData();
+        text.replace(at, text.indexOf('\n', at) - at, "*Default" + option + ": " + choice);
     }
-    const QString path = folder.filePath(QStringLiteral("variant.ppd"));
-    QFile out(path);
-    EXPECT_TRUE(out.open(QIODevice::WriteOnly));
     out.write(text);
-    return path;
+    return out.fileName();
 }
 
 inline PpdFilePtr OpenOrFail(const QString& path)
@@ -57,25 +53,20 @@ inline PpdFilePtr OpenOrFail(const QString& path)
     return ppd;
 }
 
-// Loads a PPD's installable options with the Orvan feature table for the
-// guard's lifetime.
+// For its lifetime, the installable options of the PPD at `ppdPath` with the
+// Orvan feature table, or none loaded when the path is empty.
 class InstalledOptionsGuard
 {
 public:
-    explicit InstalledOptionsGuard(const QString& ppdPath) : m_ppd(OpenOrFail(ppdPath))
+    explicit InstalledOptionsGuard(const QString& ppdPath = {})
     {
         UnloadInstallableOptions();
-        LoadInstallableOptions(m_ppd.get(), _InstalledFeatures);
+        if (!ppdPath.isEmpty())
+            LoadInstallableOptions(OpenOrFail(ppdPath).get(), _InstalledFeatures);
     }
-    InstalledOptionsGuard() { UnloadInstallableOptions(); }
     ~InstalledOptionsGuard() { UnloadInstallableOptions(); }
     InstalledOptionsGuard(const InstalledOptionsGuard&) = delete;
     InstalledOptionsGuard& operator=(const InstalledOptionsGuard&) = delete;
-
-    ppd_file_t* ppd() const { return m_ppd.get(); }
-
-private:
-    PpdFilePtr m_ppd;
 };
 
 } // namespace orvan::testing

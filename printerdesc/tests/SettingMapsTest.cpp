@@ -1,5 +1,5 @@
-// Setting maps: their rows, the lookups by item and by value, and the menus
-// built from them.
+// Setting maps: row counts and texts, the lookups by item and by value with
+// their gates, menus built from them, and input history in menus.
 #include "PpdTestSupport.h"
 
 #include "settings/Bundle.h"
@@ -7,15 +7,18 @@
 #include "settings/SettingMapAccess.h"
 #include "settings/SettingMaps.h"
 
-#include <QTemporaryDir>
-
-#include <cstring>
-
 namespace orvan {
+
+void PrintTo(const MenuItem& item, std::ostream* os)
+{
+    *os << '{' << item.text.toStdString() << ", " << item.commandId << ", " << item.referenceValue
+        << (item.separator ? ", separator}" : "}");
+}
+
 namespace {
 
 using testing::InstalledOptionsGuard;
-using testing::SamplePpdPath;
+using testing::kSamplePpd;
 using testing::WriteSampleVariant;
 
 struct NamedMap
@@ -24,328 +27,211 @@ struct NamedMap
     const _SettingMap* map;
     int rows;
 };
-
-const NamedMap kSettingMaps[] = {
-    {"_BookletLayoutOrderMap", _BookletLayoutOrderMap, 2},
-    {"_RotateImageMap", _RotateImageMap, 3},
-    {"_OutputOptionsMap", _OutputOptionsMap, 2},
-    {"_PrinterEmulationMap", _PrinterEmulationMap, 3},
-    {"_OPISubsitutionMap", _OPISubsitutionMap, 3},
-    {"_OPIPrescanMap", _OPIPrescanMap, 4},
-    {"_OnOffMap", _OnOffMap, 2},
-    {"_WatermarkMap", _WatermarkMap, 6},
-    {"_WatermarkOptionsMap", _WatermarkOptionsMap, 6},
-    {"_EnabledDisabledMap", _EnabledDisabledMap, 2},
-    {"_PageBordersMap", _PageBordersMap, 2},
-    {"_BookletWatermarkBackgroundFormsMap", _BookletWatermarkBackgroundFormsMap, 3},
-    {"_CoverSheetMap", _CoverSheetMap, 2},
-    {"_ConfirmationSheetMap", _ConfirmationSheetMap, 2},
-    {"_FaxSendSpeedMap", _FaxSendSpeedMap, 3},
-    {"_FaxResolutionMap", _FaxResolutionMap, 3},
-    {"_CoverSheetImageMap", _CoverSheetImageMap, 6},
-    {"_CoverSheetSenderMap", _CoverSheetSenderMap, 2},
-    {"_CoverSheetRecipientMap", _CoverSheetRecipientMap, 3},
-    {"_TabStockRadioMap", _TabStockRadioMap, 2},
-    {"_TabStockSetupMap", _TabStockSetupMap, 4},
-    {"_PrintQualityMap", _PrintQualityMap, 2},
-    {"_PrintingOptimizationMap", _PrintingOptimizationMap, 2},
-    {"_AdvancedMirrorImageMap", _AdvancedMirrorImageMap, 2},
-    {"_CoverSidesSimplexImagedMap", _CoverSidesSimplexImagedMap, 2},
-    {"_CoverSidesDuplexImagedMap", _CoverSidesDuplexImagedMap, 2},
-    {"_CoverSidesImagedMap", _CoverSidesImagedMap, 2},
-    {"_FolderNameMap", _FolderNameMap, 1},
-    {"_SavedJobSaveOptionRadioMap", _SavedJobSaveOptionRadioMap, 2},
-    {"_JobNameMap", _JobNameMap, 1},
-    {"_LoginNameMap", _LoginNameMap, 1},
-    {"_PlexMap", _PlexMap, 3},
-    {"_ResolutionMap", _ResolutionMap, 1},
-    {"_JobTypeMap", _JobTypeMap, 6},
-    {"_SeparatorOptionMap", _SeparatorOptionMap, 3},
-    {"_FaxCoverSizeMap", _FaxCoverSizeMap, 2},
-};
-
-TEST(SettingMapRows, CountsAndTerminators)
-{
-    for (const NamedMap& entry : kSettingMaps) {
-        SCOPED_TRACE(entry.name);
-        EXPECT_EQ(CountMaps(entry.map), entry.rows);
-        // The terminator's value 0 is what ends a search by value.
-        EXPECT_EQ(entry.map[entry.rows].ticketValue, 0);
+#define MAP(table, rows)                                                                           \
+    NamedMap                                                                                       \
+    {                                                                                              \
+#table, table, rows                                                                        \
     }
-}
 
-TEST(SettingMapLookup, UIToTicketIgnoresGates)
+QStringList textsOf(const MenuModel& menu)
 {
-    InstalledOptionsGuard nothingInstalled;
-    EXPECT_EQ(UIToTicket(_PlexMap, 3), 3);
-    EXPECT_EQ(UIToTicket(_JobTypeMap, 5), 3);
-    EXPECT_EQ(UIToTicket(_WatermarkMap, 2), -5);
-}
-
-TEST(SettingMapLookup, TicketToUIFollowsTheScanRules)
-{
-    InstalledOptionsGuard nothingInstalled;
-    struct Case
-    {
-        const char* what;
-        const _SettingMap* map;
-        std::int32_t value;
-        int item;
-        const char* key;
-    } const cases[] = {
-        {"plain match", _PlexMap, 2, 2, "Duplex"},
-        {"no such value", _PlexMap, 9, -1, nullptr},
-        {"0 sought, no zero row", _PlexMap, 0, -1, nullptr},
-        {"separator counts as an item", _WatermarkOptionsMap, 4, 5, "WatermarkPrintOnAllPages"},
-        {"separator value itself", _WatermarkOptionsMap, -5, 4, "-"},
-        {"first row 0 answers any value", _OutputOptionsMap, 1, 1, "Face Down"},
-        {"first row 0, value absent", _OutputOptionsMap, 77, 1, "Face Down"},
-        {"both rows 0", _SavedJobSaveOptionRadioMap, 0, 1, "Save"},
-        {"same value in every row: first wins", _OPIPrescanMap,
-         static_cast<std::int32_t>(FourCharCode("Qujn")), 1, "PrinterDefault"},
-        {"duplicate keys, distinct maps", _CoverSidesDuplexImagedMap, 1, 2,
-         "CoverBlankorPreprinted"},
-        {"action rows are negative", _CoverSheetImageMap, -8, 5, "Edit..."},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        EXPECT_EQ(TicketToUI(c.map, c.value), c.item);
-        const char* key = LocalizedKeyForTicketValue(c.map, c.value);
-        if (c.key)
-            EXPECT_STREQ(key, c.key);
-        else
-            EXPECT_EQ(key, nullptr);
-    }
-}
-
-TEST(SettingMapLookup, ZeroRowInTheMiddleEndsTheSearch)
-{
-    constexpr _SettingMap map[] = {
-        {"One", 1, 0, nullptr, 0},
-        {"Stop", 0, 0, nullptr, 0},
-        {"Two", 2, 0, nullptr, 0},
-        {nullptr, 0, 0, nullptr, 0},
-    };
-    EXPECT_EQ(TicketToUI(map, 1), 1);
-    EXPECT_EQ(TicketToUI(map, 2), 2) << "the value-0 row answers before the row with 2 is reached";
-    EXPECT_STREQ(LocalizedKeyForTicketValue(map, 2), "Stop");
-}
-
-TEST(SettingMapLookup, GatedJobTypesFollowTheInstalledOptions)
-{
-    QTemporaryDir folder;
-    {
-        InstalledOptionsGuard installed(SamplePpdPath()); // job storage and fax installed
-        EXPECT_EQ(TicketToUI(_JobTypeMap, 3), 5);
-        EXPECT_EQ(TicketToUI(_JobTypeMap, 5), 6);
-        EXPECT_STREQ(LocalizedKeyForTicketValue(_JobTypeMap, 3), "SavedJob");
-    }
-    {
-        InstalledOptionsGuard noStorage(WriteSampleVariant(folder, {{"Option8", "False"}}));
-        EXPECT_EQ(TicketToUI(_JobTypeMap, 3), -1) << "the terminator follows the gated rows";
-        EXPECT_EQ(LocalizedKeyForTicketValue(_JobTypeMap, 3), nullptr);
-        EXPECT_EQ(TicketToUI(_JobTypeMap, 5), 6)
-            << "a closed gate before it does not hide the fax row";
-    }
-    {
-        InstalledOptionsGuard nothingLoaded;
-        EXPECT_EQ(TicketToUI(_JobTypeMap, 3), -1);
-        EXPECT_EQ(TicketToUI(_JobTypeMap, 7), 4);
-    }
-}
-
-TEST(SettingMapLookup, LaterRowWithSameValueMatchesWhenGateIsClosed)
-{
-    constexpr _SettingMap map[] = {
-        {"Gated", 3, 0, "JobStorage", 1},
-        {"Fallback", 3, 0, nullptr, 0},
-        {"NeedsMissing", 4, 0, "JobStorage", 0},
-        {nullptr, 0, 0, nullptr, 0},
-    };
-    {
-        InstalledOptionsGuard nothingLoaded;
-        EXPECT_EQ(TicketToUI(map, 3), 2);
-        EXPECT_EQ(TicketToUI(map, 4), 3)
-            << "a row requiring state 0 shows when the feature is absent";
-    }
-    InstalledOptionsGuard installed(SamplePpdPath());
-    EXPECT_EQ(TicketToUI(map, 3), 1);
-    EXPECT_EQ(TicketToUI(map, 4), -1);
-}
-
-class MapMenuTest : public ::testing::Test
-{
-protected:
-    Bundle m_bundle{QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en")};
-};
-
-TEST_F(MapMenuTest, GatedRowsAreVisitedButLeftOut)
-{
-    QTemporaryDir folder;
-    MenuModel menu;
-    {
-        InstalledOptionsGuard neither(
-            WriteSampleVariant(folder, {{"Option8", "False"}, {"Option5", "False"}}));
-        EXPECT_EQ(PopulateMenuFromMap(&m_bundle, menu, _JobTypeMap, 0, 0), 6);
-        ASSERT_EQ(menu.count(), 4);
-        EXPECT_EQ(menu.item(4)->referenceValue, 7);
-        EXPECT_EQ(menu.item(4)->text, QStringLiteral("Delayed Print"));
-    }
-    {
-        InstalledOptionsGuard both(SamplePpdPath());
-        MenuModel full;
-        EXPECT_EQ(PopulatePopupMenuFromMap(&m_bundle, full, _JobTypeMap, 0, 0), 6);
-        ASSERT_EQ(full.count(), 6);
-        EXPECT_EQ(full.item(5)->text, QStringLiteral("Saved Job"));
-        EXPECT_EQ(full.item(6)->referenceValue, 5);
-    }
-}
-
-TEST_F(MapMenuTest, ItemsCarryTextsValuesSeparatorsAndTheMap)
-{
-    InstalledOptionsGuard nothingLoaded;
-    MenuModel menu;
-    EXPECT_EQ(PopulateMenuFromMap(&m_bundle, menu, _WatermarkOptionsMap, 0, 0), 6);
-    EXPECT_EQ(menu.sourceMap(), _WatermarkOptionsMap);
-    ASSERT_EQ(menu.count(), 6);
-    EXPECT_TRUE(menu.item(4)->separator);
-    EXPECT_EQ(menu.item(4)->referenceValue, -5);
-    EXPECT_FALSE(menu.item(5)->separator);
-    EXPECT_EQ(menu.item(6)->text, QStringLiteral("Print on First Page Only"));
-    EXPECT_EQ(menu.item(6)->referenceValue, 5);
-    EXPECT_EQ(menu.findReferenceValue(4), 5);
-
-    // PopulateMenuFromMap appends; the pop-up form starts afresh.
-    EXPECT_EQ(PopulateMenuFromMap(&m_bundle, menu, _PlexMap, 0, 0), 3);
-    EXPECT_EQ(menu.count(), 9);
-    EXPECT_EQ(menu.sourceMap(), _PlexMap);
-    EXPECT_EQ(PopulatePopupMenuFromMap(&m_bundle, menu, _PlexMap, 0, 0), 3);
-    EXPECT_EQ(menu.count(), 3);
-}
-
-TEST_F(MapMenuTest, DefaultRowTextDependsOnJobContext)
-{
-    constexpr _SettingMap map[] = {
-        {"Ignored", kUnsetValue, 0, nullptr, 0},
-        {"Simplex", 1, 0, nullptr, 0},
-        {nullptr, 0, 0, nullptr, 0},
-    };
-    MenuModel jobLevel;
-    PopulateMenuFromMap(&m_bundle, jobLevel, map, 0, 0);
-    EXPECT_EQ(jobLevel.item(1)->text, QStringLiteral("Printer Default"));
-    EXPECT_EQ(jobLevel.item(1)->referenceValue, kUnsetValue);
-    for (int context : {1, 2, 3, 4}) {
-        MenuModel special;
-        PopulateMenuFromMap(&m_bundle, special, map, context, 0);
-        EXPECT_EQ(special.item(1)->text, QStringLiteral("Use Job Setting")) << context;
-    }
-}
-
-TEST_F(MapMenuTest, CommandsAndMissingTexts)
-{
-    constexpr std::uint32_t kRowCommand = FourCharCode("Wnew");
-    constexpr std::uint32_t kOverride = FourCharCode("Sclr");
-    constexpr _SettingMap map[] = {
-        {"New...", -7, kRowCommand, nullptr, 0},
-        {"NoSuchKeyAnywhere", 2, 0, nullptr, 0},
-        {nullptr, 0, 0, nullptr, 0},
-    };
-    MenuModel own;
-    PopulateMenuFromMap(&m_bundle, own, map, 0, 0);
-    EXPECT_EQ(own.item(1)->commandId, kRowCommand);
-    EXPECT_EQ(own.item(2)->commandId, 0u);
-    EXPECT_EQ(own.item(2)->text, kStringNotFound);
-
-    MenuModel overridden;
-    PopulateMenuFromMap(&m_bundle, overridden, map, 0, kOverride);
-    EXPECT_EQ(overridden.item(1)->commandId, kOverride);
-    EXPECT_EQ(overridden.item(2)->commandId, kOverride);
-
-    MenuModel noBundle;
-    PopulateMenuFromMap(nullptr, noBundle, _PlexMap, 0, 0);
-    EXPECT_EQ(noBundle.item(1)->text, kStringNotFound);
-}
-
-TEST_F(MapMenuTest, EmptyMapGivesNoItemsButSetsTheMenuReference)
-{
-    constexpr _SettingMap empty[] = {{nullptr, 0, 0, nullptr, 0}};
-    MenuModel menu;
-    EXPECT_EQ(PopulateMenuFromMap(&m_bundle, menu, empty, 0, 0), 0);
-    EXPECT_TRUE(menu.isEmpty());
-    EXPECT_EQ(menu.sourceMap(), empty);
-}
-
-TEST(MapMenuHistory, PositionsGrowForNullElementsToo)
-{
-    MenuModel menu;
-    for (int i = 1; i <= 4; ++i)
-        menu.append(MenuItem{QString::number(i), 0, i, false});
-    PropertyValue history = PropertyValue::array();
-    history.append(QStringLiteral("A"));
-    history.append(PropertyValue());
-    history.append(QStringLiteral("B"));
-
-    constexpr std::uint32_t kHistoryCommand = FourCharCode("Hist");
-    EXPECT_EQ(InsertHistoryIntoMenu(menu, history, 3, kHistoryCommand, 4), 6);
     QStringList texts;
     for (const MenuItem& item : menu.items())
         texts << item.text;
+    return texts;
+}
+
+// clang-format off
+const NamedMap kSettingMaps[] = {
+    MAP(_BookletLayoutOrderMap, 2), MAP(_RotateImageMap, 3), MAP(_OutputOptionsMap, 2),
+    MAP(_PrinterEmulationMap, 3), MAP(_OPISubsitutionMap, 3), MAP(_OPIPrescanMap, 4),
+    MAP(_OnOffMap, 2), MAP(_WatermarkMap, 6), MAP(_WatermarkOptionsMap, 6),
+    MAP(_EnabledDisabledMap, 2), MAP(_PageBordersMap, 2), MAP(_BookletWatermarkBackgroundFormsMap, 3),
+    MAP(_CoverSheetMap, 2), MAP(_ConfirmationSheetMap, 2), MAP(_FaxSendSpeedMap, 3),
+    MAP(_FaxResolutionMap, 3), MAP(_CoverSheetImageMap, 6), MAP(_CoverSheetSenderMap, 2),
+    MAP(_CoverSheetRecipientMap, 3), MAP(_TabStockRadioMap, 2), MAP(_TabStockSetupMap, 4),
+    MAP(_PrintQualityMap, 2), MAP(_PrintingOptimizationMap, 2), MAP(_AdvancedMirrorImageMap, 2),
+    MAP(_CoverSidesSimplexImagedMap, 2), MAP(_CoverSidesDuplexImagedMap, 2), MAP(_CoverSidesImagedMap, 2),
+    MAP(_FolderNameMap, 1), MAP(_SavedJobSaveOptionRadioMap, 2), MAP(_JobNameMap, 1),
+    MAP(_LoginNameMap, 1), MAP(_PlexMap, 3), MAP(_ResolutionMap, 1),
+    MAP(_JobTypeMap, 6), MAP(_SeparatorOptionMap, 3), MAP(_FaxCoverSizeMap, 2),
+};
+// clang-format on
+
+// The counts catch a row lost or added; the terminator's value 0 is what ends
+// a search by value. Every key must have an English text.
+TEST(SettingMaps, RowCountsTerminatorsAndTexts)
+{
+    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
+    for (const NamedMap& entry : kSettingMaps) {
+        EXPECT_EQ(CountMaps(entry.map), entry.rows) << entry.name;
+        EXPECT_EQ(entry.map[entry.rows].ticketValue, 0) << entry.name;
+        for (const _SettingMap* row = entry.map; row->key; ++row)
+            EXPECT_TRUE(bundle.localizedString(row->key)) << entry.name << ": " << row->key;
+    }
+    for (const char* key : {"PrinterDefault", "UseJobSetting"})
+        EXPECT_TRUE(bundle.localizedString(key)) << key;
+    for (const _InstalledFeatureMap* row = _InstalledFeatures; row->featureKey; ++row)
+        EXPECT_TRUE(!row->textKey || bundle.localizedString(row->textKey)) << row->textKey;
+}
+
+TEST(SettingMapLookup, ScanRules)
+{
+    InstalledOptionsGuard nothingInstalled;
+    constexpr _SettingMap zeroInTheMiddle[] = {
+        {"One", 1, 0, nullptr, 0}, {"Stop", 0, 0, nullptr, 0}, {"Two", 2, 0, nullptr, 0}, {}};
+    const auto qujn = static_cast<std::int32_t>(FourCharCode("Qujn"));
+    const std::tuple<const char*, const _SettingMap*, std::int32_t, int, const char*> cases[] = {
+        // clang-format off
+        {"plain match", _PlexMap, 2, 2, "Duplex"},
+        {"no such value", _PlexMap, 9, -1, nullptr},
+        {"0 sought, no zero row", _PlexMap, 0, -1, nullptr},
+        {"a separator counts as an item", _WatermarkOptionsMap, 4, 5, "WatermarkPrintOnAllPages"},
+        {"the separator's own value", _WatermarkOptionsMap, -5, 4, "-"},
+        {"first row 0 answers any value", _OutputOptionsMap, 1, 1, "Face Down"},
+        {"first row 0, value absent", _OutputOptionsMap, 77, 1, "Face Down"},
+        {"both rows 0", _SavedJobSaveOptionRadioMap, 0, 1, "Save"},
+        {"same value in every row: the first wins", _OPIPrescanMap, qujn, 1, "PrinterDefault"},
+        {"duplicate keys across maps", _CoverSidesDuplexImagedMap, 1, 2, "CoverBlankorPreprinted"},
+        {"action rows are negative", _CoverSheetImageMap, -8, 5, "Edit..."},
+        {"a value-0 row ends the search", zeroInTheMiddle, 2, 2, "Stop"},
+        {"rows before it still match", zeroInTheMiddle, 1, 1, "One"},
+        // clang-format on
+    };
+    for (const auto& [what, map, value, item, key] : cases) {
+        EXPECT_EQ(TicketToUI(map, value), item) << what;
+        EXPECT_STREQ(LocalizedKeyForTicketValue(map, value), key) << what;
+    }
+    EXPECT_EQ(UIToTicket(_PlexMap, 3), 3);
+    EXPECT_EQ(UIToTicket(_JobTypeMap, 5), 3) << "no gating by item";
+    EXPECT_EQ(UIToTicket(_WatermarkMap, 2), -5);
+}
+
+// A gated row counts only when its installed option is in the row's state; a
+// later row with the same value can then match.
+TEST(SettingMapLookup, GatesFollowTheInstalledOptions)
+{
+    constexpr _SettingMap gated[] = {{"Gated", 3, 0, "JobStorage", 1},
+                                     {"Fallback", 3, 0, nullptr, 0},
+                                     {"NeedsMissing", 4, 0, "JobStorage", 0},
+                                     {}};
+    QTemporaryDir folder;
+    const QString noStorage = WriteSampleVariant(folder, {{"Option8", "False"}});
+    const std::tuple<const char*, QString, const _SettingMap*, std::int32_t, int, const char*>
+        cases[] = {
+            // clang-format off
+        {"job storage installed", kSamplePpd, _JobTypeMap, 3, 5, "SavedJob"},
+        {"fax after it", kSamplePpd, _JobTypeMap, 5, 6, "Fax"},
+        {"no job storage: the terminator follows", noStorage, _JobTypeMap, 3, -1, nullptr},
+        {"a closed gate does not hide the fax row", noStorage, _JobTypeMap, 5, 6, "Fax"},
+        {"nothing loaded", {}, _JobTypeMap, 3, -1, nullptr},
+        {"nothing loaded, ungated row", {}, _JobTypeMap, 7, 4, "DelayedPrint"},
+        {"gate closed: the later row", {}, gated, 3, 2, "Fallback"},
+        {"state 0 shows when the feature is absent", {}, gated, 4, 3, "NeedsMissing"},
+        {"gate open: the gated row", kSamplePpd, gated, 3, 1, "Gated"},
+        {"state 0 hidden when present", kSamplePpd, gated, 4, -1, nullptr},
+            // clang-format on
+        };
+    for (const auto& [what, ppd, map, value, item, key] : cases) {
+        InstalledOptionsGuard options(ppd);
+        EXPECT_EQ(TicketToUI(map, value), item) << what;
+        EXPECT_STREQ(LocalizedKeyForTicketValue(map, value), key) << what;
+    }
+}
+
+constexpr std::uint32_t kRowCommand = FourCharCode("Wnew"), kOverride = FourCharCode("Sclr");
+
+// A row of every kind: its own command, a separator, a default row, a key
+// without a text, a row gated on job storage.
+constexpr _SettingMap kRowKinds[] = {{"PrinterDefault", -7, kRowCommand, nullptr, 0},
+                                     {"-", -5, 0, nullptr, 0},
+                                     {"Ignored", kUnsetValue, 0, nullptr, 0},
+                                     {"NoSuchKeyAnywhere", 2, 0, nullptr, 0},
+                                     {"SavedJob", 3, 0, "JobStorage", 1},
+                                     {}};
+
+TEST(MapMenus, ItemsFromEveryKindOfRow)
+{
+    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
+    InstalledOptionsGuard nothingInstalled;
+    MenuModel menu;
+    menu.append({"kept", 0, 0, false});
+    // The gated row is visited, and so counted, but left out; items are appended.
+    EXPECT_EQ(PopulateMenuFromMap(&bundle, menu, kRowKinds, 0, 0), 5);
+    EXPECT_EQ(menu.sourceMap(), kRowKinds);
+    EXPECT_EQ(menu.items(), (std::vector<MenuItem>{{"kept", 0, 0, false},
+                                                   {"Printer Default", kRowCommand, -7, false},
+                                                   {"-", 0, -5, true},
+                                                   {"Printer Default", 0, kUnsetValue, false},
+                                                   {kStringNotFound, 0, 2, false}}));
+    // The pop-up form starts afresh; an override replaces every command.
+    EXPECT_EQ(PopulatePopupMenuFromMap(&bundle, menu, kRowKinds, 0, kOverride), 5);
+    ASSERT_EQ(menu.count(), 4);
+    for (const MenuItem& item : menu.items())
+        EXPECT_EQ(item.commandId, kOverride);
+    // Any context but the job's names the default row "Use Job Setting".
+    for (int context : {1, 2, 3, 4}) {
+        PopulatePopupMenuFromMap(&bundle, menu, kRowKinds, context, 0);
+        EXPECT_EQ(menu.item(3)->text, "Use Job Setting") << context;
+    }
+    constexpr _SettingMap empty[] = {{}};
+    EXPECT_EQ(PopulatePopupMenuFromMap(&bundle, menu, empty, 0, 0), 0);
+    EXPECT_TRUE(menu.isEmpty());
+    EXPECT_EQ(menu.sourceMap(), empty);
+    PopulateMenuFromMap(nullptr, menu, _PlexMap, 0, 0);
+    EXPECT_EQ(menu.item(1)->text, kStringNotFound);
+}
+
+TEST(MapMenus, JobTypesWithoutStorageOrFaxKeepTheirCount)
+{
+    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
+    QTemporaryDir folder;
+    InstalledOptionsGuard neither(
+        WriteSampleVariant(folder, {{"Option8", "False"}, {"Option5", "False"}}));
+    MenuModel menu;
+    EXPECT_EQ(PopulateMenuFromMap(&bundle, menu, _JobTypeMap, 0, 0), 6);
+    EXPECT_EQ(textsOf(menu),
+              (QStringList{"Normal Print", "Secure Print", "Sample Set", "Delayed Print"}));
+}
+
+TEST(MapMenus, HistoryPositionsGrowForNullElementsToo)
+{
+    MenuModel menu;
+    for (int i = 1; i <= 4; ++i)
+        menu.append({QString::number(i), 0, i, false});
+    PropertyValue history = PropertyValue::array();
+    for (const PropertyValue& element : {PropertyValue("A"), PropertyValue(), PropertyValue("B")})
+        history.append(element);
+    constexpr std::uint32_t kHistory = FourCharCode("Hist");
     // "A" after item 3; the null moves the position on; "B" after item 5.
-    EXPECT_EQ(texts, (QStringList{"1", "2", "3", "A", "4", "B"}));
-    EXPECT_EQ(menu.item(4)->commandId, kHistoryCommand);
+    EXPECT_EQ(InsertHistoryIntoMenu(menu, history, 3, kHistory, 4), 6);
+    EXPECT_EQ(textsOf(menu), (QStringList{"1", "2", "3", "A", "4", "B"}));
+    EXPECT_EQ(menu.item(4)->commandId, kHistory);
 
     MenuModel untouched;
-    EXPECT_EQ(InsertHistoryIntoMenu(untouched, QStringLiteral("not an array"), 0, 0, 7), 7);
+    EXPECT_EQ(InsertHistoryIntoMenu(untouched, PropertyValue("not an array"), 0, 0, 7), 7);
     EXPECT_TRUE(untouched.isEmpty());
 }
 
-TEST(MapMenuHistory, ReadsTheUsersInputHistoryFile)
+TEST(MapMenus, HistoryComesFromTheUsersInputHistoryFile)
 {
     QTemporaryDir config;
     qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
-    PropertyValue names = PropertyValue::array();
-    names.append(QStringLiteral("Quarterly report"));
-    names.append(QStringLiteral("Minutes"));
-    PropertyValue file = PropertyValue::dictionary();
-    file.insert(QStringLiteral("JobName"), names);
+    PropertyValue names = PropertyValue::array(), file = PropertyValue::dictionary();
+    names.append(PropertyValue("Quarterly report"));
+    names.append(PropertyValue("Minutes"));
+    file.insert("JobName", names);
     ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
 
-    Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en"));
+    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
     MenuModel menu;
-    menu.append(MenuItem{QStringLiteral("stale"), 0, 0, false});
-    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0,
-                                                 QStringLiteral("JobName"), 1, 0, 0),
+    menu.append({"stale", 0, 0, false});
+    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0, "JobName", 1, 0, 0),
               3);
-    ASSERT_EQ(menu.count(), 3);
-    EXPECT_EQ(menu.item(1)->text, QStringLiteral("Use Job Name"));
-    EXPECT_EQ(menu.item(2)->text, QStringLiteral("Quarterly report"));
-    EXPECT_EQ(menu.item(3)->text, QStringLiteral("Minutes"));
-
-    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0,
-                                                 QStringLiteral("Absent"), 1, 0, 0),
+    EXPECT_EQ(textsOf(menu), (QStringList{"Use Job Name", "Quarterly report", "Minutes"}));
+    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0, "Absent", 1, 0, 0),
               1);
     qunsetenv("XDG_CONFIG_HOME");
-}
-
-TEST(SettingMapTexts, EveryKeyHasAnEnglishText)
-{
-    Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en"));
-    QStringList missing;
-    for (const NamedMap& entry : kSettingMaps) {
-        for (const _SettingMap* row = entry.map; row->key; ++row) {
-            if (!bundle.localizedString(QString::fromUtf8(row->key)))
-                missing << QStringLiteral("%1: %2").arg(entry.name, row->key);
-        }
-    }
-    for (const char* key : {"PrinterDefault", "UseJobSetting"}) {
-        if (!bundle.localizedString(QString::fromUtf8(key)))
-            missing << key;
-    }
-    for (const _InstalledFeatureMap* row = _InstalledFeatures; row->featureKey; ++row) {
-        if (row->textKey && !bundle.localizedString(QString::fromUtf8(row->textKey)))
-            missing << row->textKey;
-    }
-    EXPECT_TRUE(missing.isEmpty()) << qPrintable(missing.join(QStringLiteral(", ")));
 }
 
 } // namespace
