@@ -1,48 +1,42 @@
+// The exception page list: a new range always wins, cutting or splitting the
+// ranges it overlaps; edits, removal and copies.
 #include "specialpages/ExceptionPageList.h"
 #include "specialpages/Insert.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
+#include <tuple>
 
 using namespace orvan;
 
 namespace {
 
-// A range and the tag that tells which added range it came from; the tag
-// travels in lightenDarken, a setting a split or cut range must keep.
-struct TaggedRange
-{
-    std::int32_t start;
-    std::int32_t end;
-    std::int32_t tag;
+// First page, last page, and a tag telling which added range it came from;
+// the tag travels in lightenDarken, a setting a split or cut range must keep.
+using Range = std::array<std::int32_t, 3>;
+using Ranges = std::vector<Range>;
 
-    friend bool operator==(const TaggedRange&, const TaggedRange&) = default;
-    friend std::ostream& operator<<(std::ostream& os, const TaggedRange& r)
-    {
-        return os << r.start << "-" << r.end << "#" << r.tag;
-    }
-};
-
-std::unique_ptr<ExceptionPage> makeRange(const TaggedRange& range)
+std::unique_ptr<ExceptionPage> makeRange(const Range& range)
 {
     auto page = std::make_unique<ExceptionPage>();
-    page->setStartPage(range.start);
-    page->setEndPage(range.end);
-    page->setLightenDarken(range.tag);
+    page->setStartPage(range[0]);
+    page->setEndPage(range[1]);
+    page->setLightenDarken(range[2]);
     return page;
 }
 
-void addRange(ExceptionPageList& list, const TaggedRange& range)
+void addRange(ExceptionPageList& list, const Range& range)
 {
     const auto page = makeRange(range);
     const SpecialPage* pages[] = {page.get()};
     ASSERT_EQ(list.add(pages), kNoError);
 }
 
-std::vector<TaggedRange> contents(const ExceptionPageList& list)
+Ranges contents(const ExceptionPageList& list)
 {
-    std::vector<TaggedRange> ranges;
+    Ranges ranges;
     for (long i = 0; i < list.count(); ++i) {
         const ExceptionPage* page = list.pageAtIndex(i);
         ranges.push_back({page->startPage(), page->endPage(), page->lightenDarken()});
@@ -50,19 +44,21 @@ std::vector<TaggedRange> contents(const ExceptionPageList& list)
     return ranges;
 }
 
-struct WalkCase
+ExceptionPageList listOf(const Ranges& ranges)
 {
-    const char* name;
-    std::vector<TaggedRange> held;
-    std::vector<TaggedRange> added;
-    std::vector<TaggedRange> expected;
-};
+    ExceptionPageList list;
+    for (const Range& range : ranges)
+        addRange(list, range);
+    return list;
+}
 
 } // namespace
 
 TEST(ExceptionPageListAdd, EveryBranchOfTheWalk)
 {
-    const WalkCase cases[] = {
+    // What the list holds, the ranges added one by one, what it holds then.
+    const std::tuple<const char*, Ranges, Ranges, Ranges> cases[] = {
+        // clang-format off
         {"into an empty list", {}, {{4, 6, 9}}, {{4, 6, 9}}},
         {"after the last", {{1, 4, 1}}, {{6, 8, 9}}, {{1, 4, 1}, {6, 8, 9}}},
         {"just after", {{5, 10, 1}}, {{11, 12, 9}}, {{5, 10, 1}, {11, 12, 9}}},
@@ -79,75 +75,56 @@ TEST(ExceptionPageListAdd, EveryBranchOfTheWalk)
         {"same end, starting inside", {{5, 10, 1}}, {{7, 10, 9}}, {{5, 6, 1}, {7, 10, 9}}},
         {"same start, shorter", {{5, 10, 1}}, {{5, 7, 9}}, {{5, 7, 9}, {8, 10, 1}}},
         {"same start, longer", {{5, 10, 1}, {12, 15, 2}}, {{5, 13, 9}}, {{5, 13, 9}, {14, 15, 2}}},
-        {"over an end into the next",
-         {{5, 10, 1}, {12, 20, 2}},
-         {{8, 14, 9}},
-         {{5, 7, 1}, {8, 14, 9}, {15, 20, 2}}},
-        {"across three",
-         {{1, 3, 1}, {5, 7, 2}, {9, 11, 3}},
-         {{2, 10, 9}},
-         {{1, 1, 1}, {2, 10, 9}, {11, 11, 3}}},
-        {"page 0 and the last page",
-         {{0, 99999, 1}},
-         {{0, 0, 8}, {99999, 99999, 9}},
-         {{0, 0, 8}, {1, 99998, 1}, {99999, 99999, 9}}},
-        {"a chain of new ranges",
-         {},
-         {{1, 10, 7}, {3, 4, 8}, {2, 8, 9}},
-         {{1, 1, 7}, {2, 8, 9}, {9, 10, 7}}},
-        {"a chain that splits a split",
-         {{1, 30, 1}},
-         {{10, 20, 8}, {12, 14, 9}, {25, 40, 7}},
+        {"over an end into the next", {{5, 10, 1}, {12, 20, 2}}, {{8, 14, 9}}, {{5, 7, 1}, {8, 14, 9}, {15, 20, 2}}},
+        {"across three", {{1, 3, 1}, {5, 7, 2}, {9, 11, 3}}, {{2, 10, 9}}, {{1, 1, 1}, {2, 10, 9}, {11, 11, 3}}},
+        {"page 0 and the last page", {{0, 99999, 1}}, {{0, 0, 8}, {99999, 99999, 9}}, {{0, 0, 8}, {1, 99998, 1}, {99999, 99999, 9}}},
+        {"a chain of new ranges", {}, {{1, 10, 7}, {3, 4, 8}, {2, 8, 9}}, {{1, 1, 7}, {2, 8, 9}, {9, 10, 7}}},
+        {"a chain that splits a split", {{1, 30, 1}}, {{10, 20, 8}, {12, 14, 9}, {25, 40, 7}},
          {{1, 9, 1}, {10, 11, 8}, {12, 14, 9}, {15, 20, 8}, {21, 24, 1}, {25, 40, 7}}},
+        // clang-format on
     };
-    for (const WalkCase& c : cases) {
-        ExceptionPageList list;
-        for (const TaggedRange& range : c.held)
+    for (const auto& [what, held, added, expected] : cases) {
+        ExceptionPageList list = listOf(held);
+        for (const Range& range : added)
             addRange(list, range);
-        for (const TaggedRange& range : c.added)
-            addRange(list, range);
-        EXPECT_EQ(contents(list), c.expected) << c.name;
+        EXPECT_EQ(contents(list), expected) << what;
     }
 }
 
-TEST(ExceptionPageListAdd, SplitHalfIsACloneWithTheSameSettings)
+// The halves of a split range are clones of it, with all its settings; the
+// list holds its own copies and leaves the caller's page alone.
+TEST(ExceptionPageListAdd, SplitHalvesAreClonesWithTheSameSettings)
 {
-    ExceptionPageList list;
     auto whole = makeRange({1, 20, 1});
     whole->setPlex(kPlexDuplex);
     whole->setHalftoneScreen(3);
     whole->imageShift().frontShiftX = 25;
     whole->stock().setType(24);
     whole->stock().setModulus(5);
+    ExceptionPageList list;
     const SpecialPage* first[] = {whole.get()};
     list.add(first);
     addRange(list, {5, 10, 9});
-
     ASSERT_EQ(list.count(), 3);
-    const ExceptionPage* head = list.pageAtIndex(0);
-    const ExceptionPage* tail = list.pageAtIndex(2);
-    EXPECT_NE(head, tail);
-    EXPECT_NE(head, whole.get()); // the list holds its own copies
-    for (const ExceptionPage* half : {head, tail}) {
+    EXPECT_NE(list.pageAtIndex(0), whole.get());
+    for (const ExceptionPage* half : {list.pageAtIndex(0), list.pageAtIndex(2)}) {
         EXPECT_EQ(half->plex(), kPlexDuplex);
         EXPECT_EQ(half->halftoneScreen(), 3);
         EXPECT_EQ(half->imageShift().frontShiftX, 25);
         EXPECT_EQ(half->stock(), whole->stock());
     }
-    // The caller's page is untouched.
     EXPECT_EQ(whole->startPage(), 1);
     EXPECT_EQ(whole->endPage(), 20);
 }
 
 TEST(ExceptionPageListAdd, SkipsReversedRangesAndOtherKinds)
 {
-    ExceptionPageList list;
-    addRange(list, {5, 10, 1});
+    ExceptionPageList list = listOf({{5, 10, 1}});
     const auto reversed = makeRange({6, 5, 9}); // would never end the walk
     const Insert insert;
     const SpecialPage* pages[] = {reversed.get(), &insert, nullptr};
     EXPECT_EQ(list.add(pages), kNoError);
-    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{5, 10, 1}}));
+    EXPECT_EQ(contents(list), (Ranges{{5, 10, 1}}));
 }
 
 // Many random sequences of ranges added one by one, against a model that
@@ -156,30 +133,26 @@ TEST(ExceptionPageListAdd, RandomSequencesMatchTheNewestRangeModel)
 {
     constexpr int kPages = 40;
     std::mt19937 random(20240611);
-    std::uniform_int_distribution<int> page(0, kPages - 1);
-    std::uniform_int_distribution<int> length(1, 8);
+    std::uniform_int_distribution<int> page(0, kPages - 1), length(1, 8);
     for (int sequence = 0; sequence < 2000; ++sequence) {
         ExceptionPageList list;
         std::array<std::int32_t, kPages + 8> owner{}; // 0: no range
-        const int steps = 1 + sequence % 12;
-        for (int tag = 1; tag <= steps; ++tag) {
+        for (int tag = 1; tag <= 1 + sequence % 12; ++tag) {
             const int start = page(random);
             // Mostly short ranges, sometimes long ones that cover others.
             const int end = std::min(
                 kPages + 7, start + (tag % 4 == 0 ? 4 * length(random) : length(random) - 1));
             addRange(list, {start, end, tag});
-            for (int p = start; p <= end; ++p)
-                owner[p] = tag;
+            std::fill(owner.begin() + start, owner.begin() + end + 1, tag);
 
             std::array<std::int32_t, kPages + 8> seen{};
             std::int32_t previousEnd = -1;
-            for (const TaggedRange& range : contents(list)) {
-                ASSERT_LE(range.start, range.end) << "sequence " << sequence;
-                ASSERT_GT(range.start, previousEnd)
+            for (const auto& [first, last, owning] : contents(list)) {
+                ASSERT_LE(first, last) << "sequence " << sequence;
+                ASSERT_GT(first, previousEnd)
                     << "sequence " << sequence << ": unsorted or overlapping";
-                previousEnd = range.end;
-                for (int p = range.start; p <= range.end; ++p)
-                    seen[p] = range.tag;
+                previousEnd = last;
+                std::fill(seen.begin() + first, seen.begin() + last + 1, owning);
             }
             ASSERT_EQ(seen, owner) << "sequence " << sequence << " step " << tag;
         }
@@ -188,47 +161,35 @@ TEST(ExceptionPageListAdd, RandomSequencesMatchTheNewestRangeModel)
 
 TEST(ExceptionPageListUpdate, ReplacesThePageByIdentity)
 {
-    ExceptionPageList list;
-    addRange(list, {1, 4, 1});
-    addRange(list, {6, 9, 2});
+    ExceptionPageList list = listOf({{1, 4, 1}, {6, 9, 2}});
     ExceptionPage* edited = list.pageAtIndex(1);
-
     // An equal range that is not in the list changes nothing.
-    const auto stranger = makeRange({6, 9, 2});
-    const auto replacement = makeRange({3, 7, 9});
+    const auto stranger = makeRange({6, 9, 2}), replacement = makeRange({3, 7, 9});
     const SpecialPage* pages[] = {replacement.get()};
     EXPECT_EQ(list.update(stranger.get(), pages), kNoError);
     EXPECT_EQ(list.count(), 2);
-
     EXPECT_EQ(list.update(edited, pages), kNoError);
-    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{1, 2, 1}, {3, 7, 9}}));
+    EXPECT_EQ(contents(list), (Ranges{{1, 2, 1}, {3, 7, 9}}));
     EXPECT_EQ(list.indexOfPage(edited), -1);
 
     // Editing into several ranges, as a typed "1, 5-6" gives.
-    const auto a = makeRange({1, 1, 10});
-    const auto b = makeRange({5, 6, 11});
+    const auto a = makeRange({1, 1, 10}), b = makeRange({5, 6, 11});
     const SpecialPage* two[] = {a.get(), b.get()};
     EXPECT_EQ(list.update(list.pageAtIndex(1), two), kNoError);
-    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{1, 1, 10}, {2, 2, 1}, {5, 6, 11}}));
+    EXPECT_EQ(contents(list), (Ranges{{1, 1, 10}, {2, 2, 1}, {5, 6, 11}}));
 }
 
 TEST(ExceptionPageListOwnership, RemoveClearAndCopies)
 {
-    ExceptionPageList list;
-    addRange(list, {1, 4, 1});
-    addRange(list, {6, 9, 2});
-    addRange(list, {12, 12, 3});
-
+    ExceptionPageList list = listOf({{1, 4, 1}, {6, 9, 2}, {12, 12, 3}});
     const ExceptionPageList copy(list);
-    auto cloned = list.clone();
     EXPECT_EQ(contents(copy), contents(list));
-    EXPECT_EQ(contents(*cloned), contents(list));
+    EXPECT_EQ(contents(*list.clone()), contents(list));
     EXPECT_NE(copy.pageAtIndex(0), list.pageAtIndex(0));
 
     list.remove(list.pageAtIndex(1));
-    EXPECT_EQ(contents(list), (std::vector<TaggedRange>{{1, 4, 1}, {12, 12, 3}}));
     list.remove(copy.pageAtIndex(0)); // another list's page
-    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(contents(list), (Ranges{{1, 4, 1}, {12, 12, 3}}));
     EXPECT_EQ(list.pageAtIndex(2), nullptr);
     EXPECT_EQ(list.pageAtIndex(-1), nullptr);
 

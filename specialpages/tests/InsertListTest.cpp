@@ -1,3 +1,5 @@
+// The insert list: ordered by page, adding order kept on one page, moves
+// that only a neighbour's start page can stop, copies and edits.
 #include "specialpages/InsertList.h"
 #include "specialpages/ExceptionPage.h"
 
@@ -6,6 +8,8 @@
 using namespace orvan;
 
 namespace {
+
+using Names = std::vector<std::int32_t>;
 
 // An insert's quantity serves as its name in these tests.
 std::unique_ptr<Insert> makeInsert(std::int32_t startPage, std::int32_t name)
@@ -16,6 +20,7 @@ std::unique_ptr<Insert> makeInsert(std::int32_t startPage, std::int32_t name)
     return insert;
 }
 
+// Inserts {start page, name} added in one call.
 InsertList listOf(std::initializer_list<std::pair<std::int32_t, std::int32_t>> inserts)
 {
     std::vector<std::unique_ptr<Insert>> made;
@@ -26,9 +31,9 @@ InsertList listOf(std::initializer_list<std::pair<std::int32_t, std::int32_t>> i
     return list;
 }
 
-std::vector<std::int32_t> names(const InsertList& list)
+Names names(const InsertList& list)
 {
-    std::vector<std::int32_t> result;
+    Names result;
     for (long i = 0; i < list.count(); ++i)
         result.push_back(list.pageAtIndex(i)->quantity());
     return result;
@@ -45,44 +50,35 @@ Insert* named(const InsertList& list, std::int32_t name)
 
 } // namespace
 
-TEST(InsertListAdd, OrdersByPageAndKeepsAddingOrderOnOnePage)
+TEST(InsertListAdd, OrdersByPageKeepsAddingOrderAndClones)
 {
-    const InsertList list = listOf({{3, 1}, {1, 2}, {3, 3}, {0, 4}, {1, 5}, {9, 6}, {0, 7}});
-    EXPECT_EQ(names(list), (std::vector<std::int32_t>{4, 7, 2, 5, 1, 3, 6}));
-}
-
-TEST(InsertListAdd, KeepsClonesAndSkipsOtherKinds)
-{
+    EXPECT_EQ(names(listOf({{3, 1}, {1, 2}, {3, 3}, {0, 4}, {1, 5}, {9, 6}, {0, 7}})),
+              (Names{4, 7, 2, 5, 1, 3, 6}));
     const auto insert = makeInsert(2, 1);
     const ExceptionPage exception;
     const SpecialPage* pages[] = {insert.get(), &exception, nullptr};
     InsertList list;
     EXPECT_EQ(list.add(pages), kNoError);
-    ASSERT_EQ(list.count(), 1);
+    ASSERT_EQ(list.count(), 1) << "other kinds are skipped";
     EXPECT_NE(list.pageAtIndex(0), insert.get());
-    EXPECT_EQ(list.indexOfPage(insert.get()), -1);
     EXPECT_EQ(list.pageAtIndex(0)->startPage(), 2);
 }
 
+// Only the neighbour's start page counts: an insert before page 1 (start
+// page 0) can never be passed; moving past another page's insert is allowed.
 TEST(InsertListMove, NeighbourStartPageDecides)
 {
-    // before page 1: a; after page 3: b, c; after page 5: d.
+    // before page 1: 1; after page 3: 2, 3; after page 5: 4.
     const InsertList list = listOf({{0, 1}, {3, 2}, {3, 3}, {5, 4}});
-    struct Case
-    {
-        std::int32_t name;
-        bool up;
-        bool down;
-    };
-    const Case cases[] = {
-        {1, false, true}, // first in the list; the insert before page 1 may itself move down
+    const std::tuple<std::int32_t, bool, bool> cases[] = {
+        {1, false, true}, // first in the list, but may itself move down
         {2, false, true}, // its predecessor is before page 1
-        {3, true, true},  // same page on both sides
-        {4, true, false}, // last; moving past an insert of another page is allowed
+        {3, true, true},
+        {4, true, false}, // last
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(list.canPromote(named(list, c.name)), c.up) << c.name;
-        EXPECT_EQ(list.canDemote(named(list, c.name)), c.down) << c.name;
+    for (const auto& [name, up, down] : cases) {
+        EXPECT_EQ(list.canPromote(named(list, name)), up) << name;
+        EXPECT_EQ(list.canDemote(named(list, name)), down) << name;
     }
     const auto stranger = makeInsert(3, 9);
     EXPECT_FALSE(list.canPromote(stranger.get()));
@@ -93,46 +89,39 @@ TEST(InsertListMove, NeighbourStartPageDecides)
 TEST(InsertListMove, SwapsWithoutChangingStartPages)
 {
     InsertList list = listOf({{0, 1}, {3, 2}, {3, 3}, {5, 4}});
-    Insert* c = named(list, 3);
-    list.promote(c);
-    EXPECT_EQ(names(list), (std::vector<std::int32_t>{1, 3, 2, 4}));
-    list.promote(c); // blocked by the insert before page 1
-    EXPECT_EQ(names(list), (std::vector<std::int32_t>{1, 3, 2, 4}));
-    EXPECT_EQ(c->startPage(), 3);
-
+    Insert* three = named(list, 3);
+    list.promote(three);
+    list.promote(three); // blocked by the insert before page 1
+    EXPECT_EQ(names(list), (Names{1, 3, 2, 4}));
+    EXPECT_EQ(three->startPage(), 3);
     list.demote(named(list, 4)); // last: nothing happens
     list.promote(named(list, 4));
-    EXPECT_EQ(names(list), (std::vector<std::int32_t>{1, 3, 4, 2}));
+    EXPECT_EQ(names(list), (Names{1, 3, 4, 2}));
     EXPECT_EQ(named(list, 4)->startPage(), 5);
-
-    // The insert before page 1 moves down past page 3's insert, and then no
-    // neighbour can pass it again.
+    // The insert before page 1 moves down, and then no neighbour can pass it.
     list.demote(named(list, 1));
-    EXPECT_EQ(names(list), (std::vector<std::int32_t>{3, 1, 4, 2}));
+    EXPECT_EQ(names(list), (Names{3, 1, 4, 2}));
     EXPECT_FALSE(list.canDemote(named(list, 3)));
     EXPECT_FALSE(list.canPromote(named(list, 4)));
 }
 
-TEST(InsertListCopy, CopiesReorderByPageButKeepSamePageMoves)
+TEST(InsertListCopyAndUpdate, CopiesReorderByPageAndEditsMoveToTheirPage)
 {
     InsertList list = listOf({{2, 1}, {2, 2}, {4, 3}});
     list.promote(named(list, 2));
-    list.promote(named(list, 3)); // now 2, 3, 1: insert 3 (page 4) before an insert of page 2
-    EXPECT_EQ(names(list), (std::vector<std::int32_t>{2, 3, 1}));
-    const auto copy = list.clone();
-    EXPECT_EQ(names(*copy), (std::vector<std::int32_t>{2, 1, 3}));
+    list.promote(named(list, 3)); // page 4's insert before one of page 2
+    EXPECT_EQ(names(list), (Names{2, 3, 1}));
+    const auto copy = list.clone(); // added anew: back in page order
+    EXPECT_EQ(names(*copy), (Names{2, 1, 3}));
     EXPECT_NE(copy->pageAtIndex(0), list.pageAtIndex(0));
-}
 
-TEST(InsertListUpdate, MovesAnEditedInsertToItsNewPage)
-{
-    InsertList list = listOf({{1, 1}, {3, 2}, {5, 3}});
-    const auto edited = makeInsert(4, 2);
-    const SpecialPage* pages[] = {edited.get()};
-    EXPECT_EQ(list.update(named(list, 2), pages), kNoError);
-    EXPECT_EQ(names(list), (std::vector<std::int32_t>{1, 2, 3}));
-    EXPECT_EQ(list.pageAtIndex(1)->startPage(), 4);
-    EXPECT_EQ(list.asTicket().size(), 3u);
-    list.clear();
-    EXPECT_TRUE(list.asTicket().isNull());
+    InsertList edited = listOf({{1, 1}, {3, 2}, {5, 3}});
+    const auto moved = makeInsert(4, 2);
+    const SpecialPage* pages[] = {moved.get()};
+    EXPECT_EQ(edited.update(named(edited, 2), pages), kNoError);
+    EXPECT_EQ(names(edited), (Names{1, 2, 3}));
+    EXPECT_EQ(edited.pageAtIndex(1)->startPage(), 4);
+    EXPECT_EQ(edited.asTicket().size(), 3u);
+    edited.clear();
+    EXPECT_TRUE(edited.asTicket().isNull());
 }

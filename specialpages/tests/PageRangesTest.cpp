@@ -1,47 +1,39 @@
+// Typed page ranges, in both record modes, and the alerts their errors raise.
 #include "specialpages/PageRanges.h"
+#include "platform/Alerts.h"
+#include "settings/Bundle.h"
+#include "specialpages/SpecialPagesNotification.h"
 
 #include <gtest/gtest.h>
 
-#include <QString>
+#include <QFile>
+#include <QMap>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+#include <tuple>
 
 using namespace orvan;
 
-namespace {
-
-struct ParseCase
-{
-    const char* text;
-    Status status;
-    std::vector<PageRange> ranges; // asRanges true; empty on failure
-};
-
+namespace orvan {
 std::ostream& operator<<(std::ostream& os, const PageRange& r)
 {
     return os << "{" << r.first << "," << r.count << "}";
 }
-
-std::vector<PageRange> singlePages(const std::vector<PageRange>& ranges)
-{
-    std::vector<PageRange> pages;
-    for (const PageRange& range : ranges) {
-        for (std::int32_t page = range.first; page < range.first + range.count; ++page)
-            pages.push_back({page, 1});
-    }
-    return pages;
-}
-
-} // namespace
+} // namespace orvan
 
 TEST(PageRanges, ParsesInBothModes)
 {
-    const ParseCase cases[] = {
+    // The ranges as records {first, count}; none on failure.
+    const std::tuple<const char*, Status, std::vector<PageRange>> cases[] = {
+        // clang-format off
         {"1, 4-6, 10", kNoError, {{1, 1}, {4, 3}, {10, 1}}},
         {"7", kNoError, {{7, 1}}},
         {"0", kNoError, {{0, 1}}},
         {"99999", kNoError, {{99999, 1}}},
         {"00012", kNoError, {{12, 1}}},
         {"-5", kNoError, {{1, 5}}},
-        {"3-5-7", kNoError, {{3, 3}, {1, 7}}},
+        {"3-5-7", kNoError, {{3, 3}, {1, 7}}}, // a leading hyphen starts again from page 1
         {"3 4", kNoError, {{3, 1}, {4, 1}}},
         {"3 - 5", kNoError, {{3, 3}}},
         {" 12 ,, 3-3 ,", kNoError, {{12, 1}, {3, 1}}},
@@ -65,32 +57,35 @@ TEST(PageRanges, ParsesInBothModes)
         {"   ", kInvalidPageRanges, {}},
         {",,", kInvalidPageRanges, {}},
         {"abc", kInvalidPageRanges, {}},
+        // clang-format on
     };
-    for (const ParseCase& c : cases) {
+    for (const auto& [text, status, ranges] : cases) {
+        std::vector<PageRange> pages; // one record a page
+        for (const PageRange& range : ranges) {
+            for (std::int32_t page = range.first; page < range.first + range.count; ++page)
+                pages.push_back({page, 1});
+        }
         for (bool asRanges : {true, false}) {
-            std::vector<PageRange> result{{42, 42}};
-            const Status status =
-                CreatePageRangesBySeparatingString(QString::fromUtf8(c.text), asRanges, &result);
-            EXPECT_EQ(status, c.status) << '"' << c.text << "\" asRanges " << asRanges;
-            if (c.status == kNoError) {
-                EXPECT_EQ(result, asRanges ? c.ranges : singlePages(c.ranges))
-                    << '"' << c.text << "\" asRanges " << asRanges;
-            } else {
-                // The result is set only on success.
-                EXPECT_EQ(result, (std::vector<PageRange>{{42, 42}})) << c.text;
-            }
+            std::vector<PageRange> result{{42, 42}}; // set on success only
+            EXPECT_EQ(CreatePageRangesBySeparatingString(QString(text), asRanges, &result), status)
+                << '"' << text << "\" asRanges " << asRanges;
+            const std::vector<PageRange> failed{{42, 42}};
+            EXPECT_EQ(result, (status != kNoError ? failed
+                               : asRanges         ? ranges
+                                                  : pages))
+                << '"' << text << "\" asRanges " << asRanges;
         }
     }
+    EXPECT_EQ(CreatePageRangesBySeparatingString(u"1", true, nullptr), kBadParameter);
 }
 
+// One record a page all the way to the last page: the inserts dialog relies
+// on it; kept so.
 TEST(PageRanges, OpenRangeRunsToTheLastPage)
 {
-    std::vector<PageRange> ranges;
+    std::vector<PageRange> ranges, pages;
     ASSERT_EQ(CreatePageRangesBySeparatingString(u"10-", true, &ranges), kNoError);
     EXPECT_EQ(ranges, (std::vector<PageRange>{{10, kLastPageNumber - 10 + 1}}));
-
-    // One record a page, all the way: the inserts dialog relies on it.
-    std::vector<PageRange> pages;
     ASSERT_EQ(CreatePageRangesBySeparatingString(u"2, 10-", false, &pages), kNoError);
     ASSERT_EQ(pages.size(), 1u + (kLastPageNumber - 10 + 1));
     EXPECT_EQ(pages[0], (PageRange{2, 1}));
@@ -98,7 +93,73 @@ TEST(PageRanges, OpenRangeRunsToTheLastPage)
     EXPECT_EQ(pages.back(), (PageRange{kLastPageNumber, 1}));
 }
 
-TEST(PageRanges, NeedsAPlaceForTheResult)
+namespace {
+
+// Collects the alerts shown while it lives.
+class AlertRecorder
 {
-    EXPECT_EQ(CreatePageRangesBySeparatingString(u"1", true, nullptr), kBadParameter);
+public:
+    AlertRecorder() : m_previous(SetAlertPresenter([this](const Alert& a) { alerts.push_back(a); }))
+    {
+    }
+    ~AlertRecorder() { SetAlertPresenter(std::move(m_previous)); }
+    std::vector<Alert> alerts;
+
+private:
+    AlertPresenter m_previous;
+};
+
+// The English texts of the special pages' string file, by key.
+QMap<QString, QString> englishTexts()
+{
+    QFile file(ORVAN_SOURCE_DIR "/resources/translations/specialpages.ts");
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&file);
+    QMap<QString, QString> texts;
+    QString source;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"source")
+            source = xml.readElementText();
+        else if (xml.name() == u"translation")
+            texts[source] = xml.readElementText();
+    }
+    return texts;
+}
+
+} // namespace
+
+TEST(SpecialPagesNotification, OneCautionAlertPerErrorCodeWithTheBundlesTexts)
+{
+    const std::tuple<Status, const char*, const char*> codes[] = {
+        {kPageNumberLimit, "Page Number Limit Title", "Page Number Limit"},
+        {kInvalidPageRanges, "Invalid Pages Title", "Invalid Page Ranges"},
+        {kInvalidRangeOrder, "Invalid Ranges Title", "Invalid Range Order"},
+        {kInvalidPageNumbers, "Invalid Page Numbers Title", "Invalid Page Numbers Message"},
+        {kPageRangeConflict, "PageRangeConflictTitle", "PageRangeConflictMessage"},
+    };
+    const QTemporaryDir empty;
+    const Bundle bare(empty.path()), plugin(ORVAN_PLUGIN_DIR, "en");
+    const QMap<QString, QString> texts = englishTexts();
+    // The limit message takes the number of digits a page number may have.
+    ASSERT_TRUE(texts.value("Page Number Limit").contains("%1"));
+    AlertRecorder recorder;
+    for (const auto& [code, title, message] : codes) {
+        recorder.alerts.clear();
+        SpecialPagesUserNotification(code, bare); // no tables: the fallback text
+        SpecialPagesUserNotification(code, plugin);
+        ASSERT_EQ(recorder.alerts.size(), 2u) << code;
+        EXPECT_EQ(recorder.alerts[0].level, AlertLevel::Caution);
+        EXPECT_EQ(recorder.alerts[0].title, kStringNotFound);
+        EXPECT_EQ(recorder.alerts[0].message, kStringNotFound);
+        EXPECT_EQ(recorder.alerts[1].title, texts.value(title)) << title;
+        EXPECT_EQ(recorder.alerts[1].message,
+                  code == kPageNumberLimit ? texts.value(message).arg(5) : texts.value(message))
+            << message;
+    }
+    recorder.alerts.clear();
+    for (Status quiet : {kNoError, kBadParameter, Status{999}, Status{1004}})
+        SpecialPagesUserNotification(quiet, plugin);
+    EXPECT_TRUE(recorder.alerts.empty());
 }

@@ -1,3 +1,5 @@
+// Covers, inserts and exception pages: defaults, dictionary forms both ways,
+// cover equality, clones; and the image-shift record they carry.
 #include "settings/DictionaryAccess.h"
 #include "specialpages/Cover.h"
 #include "specialpages/ExceptionPage.h"
@@ -31,41 +33,46 @@ long numberAt(const PropertyValue& dictionary, const QString& key)
 
 } // namespace
 
-TEST(SpecialPageRecords, DefaultsAndBaseKeys)
+TEST(SpecialPageRecords, DefaultsKeysAndClones)
 {
-    const Cover cover;
-    const Insert insert;
+    Cover cover;
+    Insert insert;
     const ExceptionPage exception;
     EXPECT_EQ(cover.sidesImaged(), kCoverBlankOrPreprinted);
     EXPECT_EQ(insert.quantity(), 1);
     EXPECT_EQ(exception.endPage(), 0);
-    EXPECT_EQ(exception.plex(), kUnset);
-    EXPECT_EQ(exception.halftoneScreen(), kUnset);
-    EXPECT_EQ(exception.lightenDarken(), kUnset);
+    for (std::int32_t unset :
+         {exception.plex(), exception.halftoneScreen(), exception.lightenDarken()})
+        EXPECT_EQ(unset, kUnset);
     EXPECT_TRUE(exception.imageShift().isUnset());
-    for (const SpecialPage* page :
-         {static_cast<const SpecialPage*>(&cover), static_cast<const SpecialPage*>(&insert),
-          static_cast<const SpecialPage*>(&exception)}) {
+    cover.setSidesImaged(kCoverPrintedSimplex);
+    insert.setQuantity(6);
+    const std::pair<const SpecialPage*, QStringList> pages[] = {
+        {&cover, {"SidesImaged", "StartPage", "Stock"}},
+        {&insert, {"Quantity", "StartPage", "Stock"}},
+        {&exception, {"EndPage", "StartPage", "Stock"}},
+    };
+    for (const auto& [page, keys] : pages) {
         EXPECT_EQ(page->startPage(), 0);
         EXPECT_EQ(page->stock().color(), kWhiteMediaColor);
         const PropertyValue dictionary = page->asTicket();
+        EXPECT_EQ(keysOf(dictionary), keys);
         EXPECT_EQ(numberAt(dictionary, kStartPageKey), 0);
         EXPECT_EQ(*dictionary.find(kSpecialPageStockKey), Stock().asTicket());
+        const std::unique_ptr<SpecialPage> clone = page->clone();
+        EXPECT_EQ(typeid(*clone), typeid(*page));
+        EXPECT_EQ(clone->asTicket(), dictionary);
     }
-    EXPECT_EQ(keysOf(cover.asTicket()), (QStringList{"SidesImaged", "StartPage", "Stock"}));
-    EXPECT_EQ(keysOf(insert.asTicket()), (QStringList{"Quantity", "StartPage", "Stock"}));
-    EXPECT_EQ(keysOf(exception.asTicket()), (QStringList{"EndPage", "StartPage", "Stock"}));
 }
 
-TEST(SpecialPageRecords, StockWithoutDictionaryHasNoColour)
+TEST(SpecialPageRecords, ReadFromMissingOrPartialDictionaries)
 {
     PropertyValue dictionary = PropertyValue::dictionary();
     WriteTicketValue(&dictionary, kStartPageKey, 4);
     const Insert noStock(&dictionary);
     EXPECT_EQ(noStock.startPage(), 4);
-    EXPECT_EQ(noStock.stock().color(), kUnset);
+    EXPECT_EQ(noStock.stock().color(), kUnset) << "a stock from no dictionary";
     EXPECT_EQ(noStock.quantity(), 1);
-
     const Cover fromNothing(nullptr);
     EXPECT_EQ(fromNothing.stock().color(), kUnset);
     EXPECT_EQ(fromNothing.sidesImaged(), kCoverBlankOrPreprinted);
@@ -96,8 +103,7 @@ TEST(SpecialPageRecords, CoverAndInsertRoundTrip)
 
 TEST(SpecialPageRecords, CoverEqualityIgnoresStartPage)
 {
-    Cover a;
-    Cover b;
+    Cover a, b;
     b.setStartPage(12);
     EXPECT_EQ(a, b);
     b.stock().setCustomName("Linen");
@@ -108,6 +114,8 @@ TEST(SpecialPageRecords, CoverEqualityIgnoresStartPage)
     EXPECT_FALSE(a == b);
 }
 
+// The plex travels under the cover's key "SidesImaged", and HalftoneScreen is
+// written but never read back: both kept so.
 TEST(SpecialPageRecords, ExceptionPageKeysAndWhatComesBack)
 {
     ExceptionPage page;
@@ -118,11 +126,9 @@ TEST(SpecialPageRecords, ExceptionPageKeysAndWhatComesBack)
     page.setLightenDarken(-3);
     page.imageShift().tabExtension = 60;
     const PropertyValue dictionary = page.asTicket();
-
     EXPECT_EQ(keysOf(dictionary),
               (QStringList{"EndPage", "HalftoneScreen", "LightenDarken", "SidesImaged", "StartPage",
                            "Stock", "com.orvan.print.ImageShiftOptionsPage"}));
-    // The plex travels under the cover's key.
     EXPECT_EQ(numberAt(dictionary, "SidesImaged"), kPlexDuplexShort);
     EXPECT_EQ(numberAt(dictionary, "HalftoneScreen"), 2);
 
@@ -132,36 +138,18 @@ TEST(SpecialPageRecords, ExceptionPageKeysAndWhatComesBack)
     EXPECT_EQ(back.plex(), kPlexDuplexShort);
     EXPECT_EQ(back.lightenDarken(), -3);
     EXPECT_EQ(back.imageShift(), page.imageShift());
-    EXPECT_EQ(back.halftoneScreen(), kUnset); // written, never read
-
+    EXPECT_EQ(back.halftoneScreen(), kUnset);
     // A cover read from an exception page's dictionary takes the plex as its sides.
     EXPECT_EQ(Cover(&dictionary).sidesImaged(), kPlexDuplexShort);
 }
 
-TEST(SpecialPageRecords, ClonesKeepTheirKind)
-{
-    // Field-by-field copying of exception pages is checked where the list
-    // splits a range.
-    Cover cover;
-    cover.setSidesImaged(kCoverPrintedSimplex);
-    Insert insert;
-    insert.setQuantity(6);
-    const ExceptionPage exception;
-    for (const SpecialPage* page :
-         {static_cast<const SpecialPage*>(&cover), static_cast<const SpecialPage*>(&insert),
-          static_cast<const SpecialPage*>(&exception)}) {
-        const std::unique_ptr<SpecialPage> clone = page->clone();
-        EXPECT_EQ(typeid(*clone), typeid(*page));
-        EXPECT_EQ(clone->asTicket(), page->asTicket());
-    }
-}
-
-TEST(ImageShiftOptions, SpecialPagesWriteOnlyWhatIsSet)
+// Special pages write only what is set; the job writes every field, 0 for
+// unset. Values that are not numbers, or no dictionary, read nothing.
+TEST(ImageShiftOptions, WrittenByContextAndReadBack)
 {
     ImageShiftOptions options;
     EXPECT_FALSE(options.asTicket(JobContext::ImageShift));
     EXPECT_FALSE(options.asTicket(JobContext::ExceptionPages));
-
     options.frontShiftX = -15;
     options.backShiftY = 20;
     const auto written = options.asTicket(JobContext::ImageShift);
@@ -170,29 +158,23 @@ TEST(ImageShiftOptions, SpecialPagesWriteOnlyWhatIsSet)
     ImageShiftOptions back;
     back.readFromTicket(&*written);
     EXPECT_EQ(back, options);
-
     options.backMirrorsFront = true;
-    const auto mirrored = options.asTicket(JobContext::ImageShift);
-    EXPECT_EQ(keysOf(*mirrored), (QStringList{"BackMirrorsFront", "FrontShiftX"}));
-}
+    EXPECT_EQ(keysOf(*options.asTicket(JobContext::ImageShift)),
+              (QStringList{"BackMirrorsFront", "FrontShiftX"}));
 
-TEST(ImageShiftOptions, JobWritesEveryFieldWithZeroForUnset)
-{
-    ImageShiftOptions options;
-    options.tabExtension = 50;
-    const auto written = options.asTicket(JobContext::Job);
-    ASSERT_TRUE(written);
-    EXPECT_EQ(written->size(), 6u);
-    EXPECT_EQ(numberAt(*written, "TabExtension"), 50);
-    EXPECT_EQ(numberAt(*written, "FrontShiftY"), 0);
-    EXPECT_EQ(written->find("BackMirrorsFront")->toBool(), false);
+    ImageShiftOptions job;
+    job.tabExtension = 50;
+    const auto all = job.asTicket(JobContext::Job);
+    ASSERT_TRUE(all);
+    EXPECT_EQ(all->size(), 6u);
+    EXPECT_EQ(numberAt(*all, "TabExtension"), 50);
+    EXPECT_EQ(numberAt(*all, "FrontShiftY"), 0);
+    EXPECT_EQ(all->find("BackMirrorsFront")->toBool(), false);
 
-    ImageShiftOptions read;
-    read.frontShiftY = 7;
+    job.frontShiftY = 7;
     PropertyValue malformed = PropertyValue::dictionary();
     malformed.insert("FrontShiftY", PropertyValue("7 mm"));
-    read.readFromTicket(&malformed);
-    EXPECT_EQ(read.frontShiftY, 7);
-    read.readFromTicket(nullptr);
-    EXPECT_EQ(read.frontShiftY, 7);
+    job.readFromTicket(&malformed);
+    job.readFromTicket(nullptr);
+    EXPECT_EQ(job.frontShiftY, 7);
 }
