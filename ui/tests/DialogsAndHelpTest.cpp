@@ -22,6 +22,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 using namespace orvan;
 
@@ -86,47 +87,28 @@ QByteArray infoPlist(const QByteArray& helpBookEntry)
 
 } // namespace
 
-TEST(CustomValueDialog, OkReturnsTheLimitedText)
+// OK returns the text cut to its limits; Cancel a null string; Help opens
+// its page and leaves the dialog open.
+TEST(CustomValueDialog, OkCancelAndHelp)
 {
     const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
-    QString value = "pre";
+    HelpCapture help;
+    QString value = "pre", prefilled, title;
     int result = 0;
-    QString prefilled;
-    whenShown("CustomValue", [&prefilled](QWidget* dialog) {
+    whenShown("CustomValue", [&](QWidget* dialog) {
         auto* field = dialog->findChild<QLineEdit*>("CustomValueField");
         prefilled = field->text();
+        title = dialog->windowTitle();
         field->clear();
         QTest::keyClicks(field, "abcdefg");
         dialog->findChild<QPushButton*>("OKButton")->click();
     });
     EXPECT_EQ(RunModalCustomValueDialog(&bundle, 1, 5, value, result), kNoError);
     EXPECT_EQ(prefilled, "pre");
+    EXPECT_EQ(title, "Custom Value");
     EXPECT_EQ(result, kCustomValueOK);
     EXPECT_EQ(value, "abcde");
-}
 
-TEST(CustomValueDialog, CancelReturnsANullString)
-{
-    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
-    QString value = "kept?";
-    int result = 0;
-    QString title;
-    whenShown("CustomValue", [&title](QWidget* dialog) {
-        title = dialog->windowTitle();
-        dialog->findChild<QPushButton*>("CancelButton")->click();
-    });
-    RunModalCustomValueDialog(&bundle, 0, 0, value, result);
-    EXPECT_EQ(result, kCustomValueCancel);
-    EXPECT_TRUE(value.isNull());
-    EXPECT_EQ(title, "Custom Value");
-}
-
-TEST(CustomValueDialog, HelpOpensItsPageAndLeavesTheDialogOpen)
-{
-    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
-    HelpCapture help;
-    QString value;
-    int result = 0;
     bool openAfterHelp = false;
     whenShown("CustomValue", [&](QWidget* dialog) {
         dialog->findChild<QPushButton*>("HelpButton")->click();
@@ -134,10 +116,10 @@ TEST(CustomValueDialog, HelpOpensItsPageAndLeavesTheDialogOpen)
         dialog->findChild<QPushButton*>("CancelButton")->click();
     });
     RunModalCustomValueDialog(&bundle, 0, 0, value, result);
-    EXPECT_TRUE(openAfterHelp);
     EXPECT_EQ(result, kCustomValueCancel);
+    EXPECT_TRUE(value.isNull());
+    EXPECT_TRUE(openAfterHelp);
     ASSERT_EQ(help.urls.size(), 1);
-    EXPECT_TRUE(help.urls[0].isLocalFile());
     EXPECT_TRUE(
         help.urls[0].toLocalFile().endsWith("/Resources/help/image_options/db_custom_color_d.htm"));
 }
@@ -186,28 +168,23 @@ TEST(Help, PagesOpenAtTheirAnchorAndAnchorsAreFoundInTheBook)
     writeFile(dir.filePath("Resources/help/index.html"), "<h1 id=\"top\">Start</h1>");
     writeFile(dir.filePath("Resources/help/stock/paper.htm"), "<h2 id='colours'>Colours</h2>");
     const Bundle bundle(dir.path());
-    const QString book = QDir(dir.path()).canonicalPath() + "/Resources/help/";
+    const auto url = [book = QDir(dir.path()).canonicalPath() + "/Resources/help/"](
+                         const char* page) { return QUrl::fromLocalFile(book + page).toString(); };
 
-    const struct
-    {
-        const char* page;
-        const char* anchor;
-        QString expectedUrl;
-    } rows[] = {
-        {"stock/paper.htm", "colours",
-         QUrl::fromLocalFile(book + "stock/paper.htm").toString() + "#colours"},
-        {"stock/paper.htm", "", QUrl::fromLocalFile(book + "stock/paper.htm").toString()},
-        {"", "", QUrl::fromLocalFile(book + "index.html").toString()},
-        {"", "colours", QUrl::fromLocalFile(book + "stock/paper.htm").toString() + "#colours"},
-        {"", "top", QUrl::fromLocalFile(book + "index.html").toString() + "#top"},
-        {"", "nowhere", QUrl::fromLocalFile(book + "index.html").toString() + "#nowhere"},
+    // Page, anchor, the URL opened.
+    const std::tuple<const char*, const char*, QString> rows[] = {
+        {"stock/paper.htm", "colours", url("stock/paper.htm") + "#colours"},
+        {"stock/paper.htm", "", url("stock/paper.htm")},
+        {"", "", url("index.html")},
+        {"", "colours", url("stock/paper.htm") + "#colours"}, // found in the book
+        {"", "top", url("index.html") + "#top"},
+        {"", "nowhere", url("index.html") + "#nowhere"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [page, anchor, expectedUrl] : rows) {
         help.urls.clear();
-        EXPECT_EQ(DisplayHelp(&bundle, row.page, row.anchor), kNoError)
-            << row.page << " " << row.anchor;
+        EXPECT_EQ(DisplayHelp(&bundle, page, anchor), kNoError) << page << " " << anchor;
         ASSERT_EQ(help.urls.size(), 1);
-        QUrl expected(row.expectedUrl);
+        const QUrl expected(expectedUrl);
         EXPECT_EQ(
             QUrl::fromLocalFile(QFileInfo(help.urls[0].toLocalFile()).canonicalFilePath()).path(),
             expected.path());
