@@ -32,6 +32,7 @@ ShellPane::ShellPane(PDEShellContext* context, QWidget* parent)
     m_tabs->setExpanding(false);
     m_tabs->setDrawBase(false);
     m_container->setObjectName(QStringLiteral("ShellContainer"));
+    m_container->setFrameShape(QFrame::StyledPanel);
     m_previous->setObjectName(QStringLiteral("PreviousPanelButton"));
     m_next->setObjectName(QStringLiteral("NextPanelButton"));
     m_help->setObjectName(QStringLiteral("ShellHelpButton"));

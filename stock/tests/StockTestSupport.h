@@ -19,7 +19,7 @@ namespace orvan::testing {
 class CurrentPrinterGuard
 {
 public:
-    explicit CurrentPrinterGuard(const QString& ppdPath = SamplePpdPath())
+    explicit CurrentPrinterGuard(const QString& ppdPath = kSamplePpd)
     {
         UnloadInstallableOptions();
         PPDSetCurrent(OpenOrFail(ppdPath));
