@@ -28,7 +28,7 @@ public:
 
 private:
     int m_argc = 1;
-    char m_name[16] = "host_tests";
+    char m_name[16] = "orvan_tests";
     char* m_argv[2] = {m_name, nullptr};
     std::unique_ptr<TestApplication> m_application;
 };
