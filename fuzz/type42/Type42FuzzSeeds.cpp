@@ -2,7 +2,7 @@
 // path of the converter (post formats, glyph names, both loca formats, split
 // and cut-short sfnts, name records).
 
-#include "SfntBuilder.h"
+#include "Type42TestSupport.h"
 
 #include <cstdio>
 #include <fstream>
@@ -28,35 +28,47 @@ int main(int argc, char** argv)
     }
     const std::string folder = argv[1];
 
-    save(folder, "minimal", minimalFont().build());
+    save(folder, "minimal", build(vitalTables()));
 
-    FontBuilder named = namedFont({standardName(0), standardName(3), standardName(36),
-                                   customName("Euro"), customName("a.alt"), customName("Euro")});
-    named.add("loca", locaLong({0, 4, 8, 12, 16, 20})).add("glyf", Bytes(24, 0x42));
-    save(folder, "named-long-loca", named.build());
+    FontSpec named;
+    named.glyphs = 6;
+    named.post = post2({0, 3, 36, 258, 259, 258}, {"Euro", "a.alt"});
+    save(folder, "named-long-loca", build(glyphTables(named, loca({0, 4, 8, 12, 16, 20, 24}), 24, 0x42)));
 
-    HeadFields shortLoca;
-    shortLoca.indexToLocFormat = 0;
+    FontSpec shortLoca;
+    shortLoca.glyphs = 3;
+    shortLoca.locFormat = 0;
     shortLoca.xMin = -300;
     shortLoca.yMax = 2000;
-    FontBuilder shortFont = minimalFont(3, shortLoca);
-    shortFont.add("loca", locaShort({0, 2, 4})).add("glyf", Bytes(12, 0x17));
-    save(folder, "short-loca", shortFont.build());
+    save(folder, "short-loca", build(glyphTables(shortLoca, loca({0, 2, 4, 6}, 2), 12, 0x17)));
 
-    FontBuilder split = minimalFont(3);
-    split.add("loca", locaLong({0, 40000, 40002})).add("glyf", Bytes(70000, 0x99));
-    save(folder, "split", split.build());
+    FontSpec split;
+    split.glyphs = 3;
+    save(folder, "split", build(glyphTables(split, loca({0, 40000, 40002, 70000}), 70000, 0x99)));
 
-    FontBuilder cut = minimalFont();
-    cut.add("glyf", Bytes(70000, 0x11));
-    save(folder, "cut-short", cut.build());
+    Tables cut = vitalTables();
+    cut.emplace_back("glyf", Bytes(70000, 0x11));
+    save(folder, "cut-short", build(cut));
 
-    FontBuilder withNames;
-    withNames.add("head", headTable())
-        .add("maxp", maxpTable(1))
-        .add("post", postTable3(1000, 2000))
-        .add("name", nameTable(0, {NameRecord{3, 1, 0x0409, 6, utf16BE(u"Seed-Regular")},
-                                   NameRecord{1, 0, 0, 6, Bytes{'S', 'e', 'e', 'd', 0x8E}}}));
-    save(folder, "name-records", withNames.build());
+    FontSpec withNames;
+    withNames.post = post3(1000, 2000);
+    Tables names = vitalTables(withNames);
+    // A name table with one Windows (UTF-16BE) and one Mac Roman PostScript name.
+    Bytes name = table(6 + 2 * 12, {{0, 0, 2}, {2, 2, 2}, {4, 30, 2}});
+    const char16_t* windowsName = u"Seed-Regular";
+    Bytes strings;
+    for (const char16_t* c = windowsName; *c; ++c)
+        append(strings, *c, 2);
+    const std::size_t windowsLength = strings.size();
+    for (std::uint8_t c : {0x53, 0x65, 0x65, 0x64, 0x8E}) // "Seed" and a Mac Roman e-acute
+        strings.push_back(c);
+    const Field records[] = {{6, 3, 2},  {8, 1, 2},  {10, 0x0409, 2}, {12, 6, 2}, {14, std::uint32_t(windowsLength), 2},
+                             {16, 0, 2}, {18, 1, 2}, {20, 0, 2},      {22, 0, 2}, {24, 6, 2},
+                             {26, 5, 2}, {28, std::uint32_t(windowsLength), 2}};
+    for (const Field& field : records)
+        put(name, field.at, field.value, field.width);
+    name.insert(name.end(), strings.begin(), strings.end());
+    names[3].second = name;
+    save(folder, "name-records", build(names));
     return 0;
 }
