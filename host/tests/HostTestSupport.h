@@ -1,10 +1,13 @@
-// Fixtures shared by the host's tests: the sample printer's PPD and small
-// PostScript documents whose pages can be told apart in a job's output.
+// Fixtures shared by the host's tests: the sample printer's PPD, a private
+// cupsd with a queue on it, and PostScript documents whose pages can be told
+// apart in a job's output.
 #pragma once
 
-#include <QByteArray>
+#include "host/tests/CupsServer.h"
+
 #include <QFile>
-#include <QString>
+
+#include <gtest/gtest.h>
 
 #include <ostream>
 
@@ -15,13 +18,24 @@ inline QString SamplePpdPath()
     return QStringLiteral(ORVAN_PLUGIN_DIR "/Resources/ppd/Orvan-Meridian-5000.ppd");
 }
 
+// A private cupsd with the file queue "Meridian" on the sample PPD. Skips the
+// test when the machine has no cupsd: callers return when server is null.
+inline void StartCupsWithSampleQueue(std::unique_ptr<CupsServer>& server)
+{
+    if (CupsServer::daemonPath().isEmpty())
+        GTEST_SKIP() << "cupsd is not installed";
+    QString why;
+    server = CupsServer::start(&why);
+    ASSERT_TRUE(server) << why.toStdString();
+    ASSERT_TRUE(server->addFileQueue("Meridian", SamplePpdPath(), &why)) << why.toStdString();
+}
+
 // The text page n of a document made by WritePostScriptDocument shows.
 inline QByteArray PageMarker(int page)
 {
-    return QByteArrayLiteral("(orvan test page ") + QByteArray::number(page) + ')';
+    return "(orvan test page " + QByteArray::number(page) + ')';
 }
 
-// A DSC-conforming PostScript document of the given number of pages.
 inline bool WritePostScriptDocument(const QString& path, int pages)
 {
     QByteArray text = "%!PS-Adobe-3.0\n%%Pages: " + QByteArray::number(pages) +
@@ -30,9 +44,8 @@ inline bool WritePostScriptDocument(const QString& path, int pages)
         text += "%%Page: " + QByteArray::number(page) + ' ' + QByteArray::number(page) +
                 "\n/Helvetica findfont 20 scalefont setfont 72 700 moveto " + PageMarker(page) +
                 " show showpage\n";
-    text += "%%Trailer\n%%EOF\n";
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    return file.open(QIODevice::WriteOnly) && file.write(text + "%%Trailer\n%%EOF\n") > 0;
 }
 
 } // namespace orvan::testing
