@@ -7,32 +7,25 @@
 namespace orvan {
 namespace {
 
-// Dialogs that answer as told and remember being asked.
+// Dialogs that answer as told and remember what they were shown.
 class ScriptedDialogs : public StockDialogs
 {
 public:
     bool accept = true;
-    std::int32_t newWidth = 2000;
-    std::int32_t newLength = 3000;
-    std::int32_t seenWidth = 0;
-    std::int32_t seenLength = 0;
-    int customSizeRuns = 0;
-    int advancedRuns = 0;
+    std::pair<std::int32_t, std::int32_t> seenSize;
+    int runs = 0;
 
     bool runCustomSizeDialog(std::int32_t& width, std::int32_t& length) override
     {
-        ++customSizeRuns;
-        seenWidth = width;
-        seenLength = length;
-        if (accept) {
-            width = newWidth;
-            length = newLength;
-        }
+        ++runs;
+        seenSize = {width, length};
+        if (accept)
+            width = 2000, length = 3000;
         return accept;
     }
     bool runAdvancedStockSelection(Stock& stock, JobContext) override
     {
-        ++advancedRuns;
+        ++runs;
         if (accept)
             stock.setWeight(90);
         return accept;
@@ -44,24 +37,22 @@ class StockCommandsTest : public ::testing::Test
 protected:
     StockCommandsTest()
     {
-        stock.setSource(kInstalledFeatureSource);
-        stock.setCustomName(QStringLiteral("Quarterly report"));
-        stock.setCustomNameOnly(true);
-        data.stock = &stock;
-        data.dialogs = &dialogs;
-        data.context = JobContext::Covers;
+        data = {.stock = &stock, .context = JobContext::Covers, .dialogs = &dialogs};
     }
 
+    // A cover stock from the inserter under a name only, then the command.
     Status run(std::uint32_t command, std::int32_t value = 0)
     {
+        stock.setSource(kInstalledFeatureSource);
+        stock.setCustomName("Quarterly report");
+        stock.setCustomNameOnly(true);
         return StockMenuCommandEventHandler(data, command, value);
     }
 
-    void expectAttributeChoiceReset()
+    // Whether the command left the inserter and the name behind.
+    bool choiceReset() const
     {
-        EXPECT_EQ(stock.source(), kUnset);
-        EXPECT_TRUE(stock.customName().isEmpty());
-        EXPECT_FALSE(stock.customNameOnly());
+        return stock.source() == kUnset && stock.customName().isEmpty() && !stock.customNameOnly();
     }
 
     Stock stock;
@@ -71,25 +62,20 @@ protected:
 
 TEST_F(StockCommandsTest, ChoosingSizeColourOrTypeLeavesTheInserterAndTheName)
 {
-    EXPECT_EQ(run(kStockSizeCommand, 4), kNoError);
-    EXPECT_EQ(stock.size(), 4);
-    expectAttributeChoiceReset();
-
-    stock.setSource(kInstalledFeatureSource);
-    stock.setCustomName(QStringLiteral("Again"));
-    EXPECT_EQ(run(kStockColorCommand, 3), kNoError);
-    EXPECT_EQ(stock.color(), 3);
-    expectAttributeChoiceReset();
-
-    stock.setSource(kInstalledFeatureSource);
-    EXPECT_EQ(run(kStockTypeCommand, 2), kNoError);
-    EXPECT_EQ(stock.type(), kTransparencyMediaType);
-    EXPECT_EQ(stock.color(), kClearMediaColor) << "transparencies are clear";
-    expectAttributeChoiceReset();
-
-    EXPECT_EQ(run(kStockColorCommand, kUnset), kNoError) << "Use Job Setting";
-    EXPECT_EQ(stock.color(), kUnset);
-    EXPECT_EQ(dialogs.customSizeRuns + dialogs.advancedRuns, 0);
+    using Field = std::int32_t (Stock::*)() const;
+    const std::tuple<std::uint32_t, std::int32_t, Field, std::int32_t> cases[] = {
+        {kStockSizeCommand, 4, &Stock::size, 4},
+        {kStockColorCommand, 3, &Stock::color, 3},
+        {kStockTypeCommand, kTransparencyMediaType, &Stock::type, kTransparencyMediaType},
+        {kStockTypeCommand, kTransparencyMediaType, &Stock::color, kClearMediaColor},
+        {kStockColorCommand, kUnset, &Stock::color, kUnset}, // Use Job Setting
+    };
+    for (const auto& [command, value, field, expected] : cases) {
+        EXPECT_EQ(run(command, value), kNoError);
+        EXPECT_EQ((stock.*field)(), expected) << value;
+        EXPECT_TRUE(choiceReset()) << value;
+    }
+    EXPECT_EQ(dialogs.runs, 0);
 }
 
 TEST_F(StockCommandsTest, CustomSizeGoesThroughTheDialog)
@@ -97,74 +83,62 @@ TEST_F(StockCommandsTest, CustomSizeGoesThroughTheDialog)
     stock.setWidth(1000);
     stock.setLength(1500);
     EXPECT_EQ(run(kStockSizeCommand, kCustomPageSize), kNoError);
-    EXPECT_EQ(dialogs.customSizeRuns, 1);
-    EXPECT_EQ(dialogs.seenWidth, 1000);
-    EXPECT_EQ(dialogs.seenLength, 1500);
+    EXPECT_EQ(dialogs.seenSize, std::pair(1000, 1500));
     EXPECT_EQ(stock.size(), kCustomPageSize);
-    EXPECT_EQ(stock.width(), 2000);
-    EXPECT_EQ(stock.length(), 3000);
-    expectAttributeChoiceReset();
+    EXPECT_EQ(std::pair(stock.width(), stock.length()), std::pair(2000, 3000));
+    EXPECT_TRUE(choiceReset());
 
     // Cancel keeps the size (here Letter) but still drops the name.
     stock.setSize(kLetterPageSize);
-    stock.setCustomName(QStringLiteral("Named"));
     dialogs.accept = false;
     EXPECT_EQ(run(kStockSizeCommand, kCustomPageSize), kNoError);
-    EXPECT_EQ(dialogs.seenWidth, kUnset);
+    EXPECT_EQ(dialogs.seenSize, std::pair(kUnset, kUnset));
     EXPECT_EQ(stock.size(), kLetterPageSize);
-    EXPECT_EQ(stock.width(), kUnset);
-    expectAttributeChoiceReset();
-
+    EXPECT_TRUE(choiceReset());
     // No dialogs at all counts as Cancel.
     data.dialogs = nullptr;
     EXPECT_EQ(run(kStockSizeCommand, kCustomPageSize), kNoError);
     EXPECT_EQ(stock.size(), kLetterPageSize);
+    EXPECT_EQ(dialogs.runs, 2);
 }
 
 TEST_F(StockCommandsTest, AdvancedSelectionDropsTheNameOnlyOnOk)
 {
     dialogs.accept = false;
     EXPECT_EQ(run(kStockAdvancedCommand), kNoError);
-    EXPECT_EQ(stock.customName(), QStringLiteral("Quarterly report"));
-    EXPECT_EQ(stock.source(), kInstalledFeatureSource) << "the source is not the dialog's";
-
+    EXPECT_EQ(stock.customName(), "Quarterly report");
     dialogs.accept = true;
     EXPECT_EQ(run(kStockAdvancedCommand), kNoError);
     EXPECT_EQ(stock.weight(), 90);
-    EXPECT_TRUE(stock.customName().isEmpty());
-    EXPECT_FALSE(stock.customNameOnly());
-    EXPECT_EQ(dialogs.advancedRuns, 2);
+    EXPECT_TRUE(stock.customName().isEmpty() && !stock.customNameOnly());
+    EXPECT_EQ(stock.source(), kInstalledFeatureSource) << "the source is not the dialog's";
 }
 
 TEST_F(StockCommandsTest, DefaultDependsOnTheButtonsContext)
 {
-    stock.setSize(4);
     stock.setColor(2);
-    stock.setType(9);
-    stock.setComment(QStringLiteral("kept"));
+    stock.setComment("kept");
     EXPECT_EQ(run(kStockDefaultCommand), kNoError);
-    EXPECT_EQ(stock.size(), kUnset);
     EXPECT_EQ(stock.color(), kUnset);
-    EXPECT_EQ(stock.type(), kUnset);
-    EXPECT_EQ(stock.comment(), QStringLiteral("kept"));
+    EXPECT_EQ(stock.comment(), "kept");
     EXPECT_EQ(stock.source(), kInstalledFeatureSource) << "DefaultStock leaves the source";
-
     data.context = JobContext::Job;
     EXPECT_EQ(run(kStockDefaultCommand), kNoError);
-    EXPECT_EQ(stock.size(), kLetterPageSize);
     EXPECT_EQ(stock.color(), kWhiteMediaColor);
-    EXPECT_EQ(stock.type(), kStandardMediaType);
 }
 
 TEST_F(StockCommandsTest, SourceCommandAndOtherEvents)
 {
-    stock.setSource(kUnset);
-    EXPECT_EQ(run(kStockSourceCommand, kInstalledFeatureSource), kNoError);
+    run(kStockColorCommand, 2);
+    EXPECT_EQ(stock.source(), kUnset);
+    stock.setCustomName("Kept");
+    EXPECT_EQ(StockMenuCommandEventHandler(data, kStockSourceCommand, kInstalledFeatureSource),
+              kNoError);
     EXPECT_EQ(stock.source(), kInstalledFeatureSource);
-    EXPECT_EQ(stock.customName(), QStringLiteral("Quarterly report"));
+    EXPECT_EQ(stock.customName(), "Kept");
 
     const Stock before = stock;
-    EXPECT_EQ(run(FourCharCode("Qujn"), 1), kEventNotHandled);
+    EXPECT_EQ(StockMenuCommandEventHandler(data, FourCharCode("Qujn"), 1), kEventNotHandled);
     EXPECT_TRUE(stock == before);
     data.stock = nullptr;
     EXPECT_EQ(run(kStockColorCommand, 2), kBadParameter);

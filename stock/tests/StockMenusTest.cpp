@@ -4,14 +4,10 @@
 
 #include "stock/StockMenus.h"
 
-#include <QTemporaryDir>
-
 namespace orvan {
 namespace {
 
-using testing::SamplePrinterTest;
-
-std::vector<std::int32_t> valuesOf(const MenuModel& menu)
+std::vector<std::int32_t> ValuesOf(const MenuModel& menu)
 {
     std::vector<std::int32_t> values;
     for (const MenuItem& item : menu.items())
@@ -19,108 +15,95 @@ std::vector<std::int32_t> valuesOf(const MenuModel& menu)
     return values;
 }
 
-bool hasValue(const MenuModel& menu, std::int32_t value)
+// A stock menu as text: submenus end in ">", separators are "-".
+QString Describe(const StockMenu& menu)
 {
-    return menu.findReferenceValue(value) != 0;
+    QStringList items;
+    for (const auto& [item, submenu] : menu)
+        items << (item.separator ? "-" : item.text + (submenu ? ">" : ""));
+    return items.join(", ");
 }
 
-using StockMenusTest = SamplePrinterTest;
+using StockMenusTest = testing::SamplePrinterTest;
 
 TEST_F(StockMenusTest, JobMenusListThePrintersChoicesWithTheirCommands)
 {
     MenuModel sizes, colors, types;
     const int sizeCount = PopulateStockSizeMenu(sizes, bundle.get(), JobContext::Job);
     EXPECT_EQ(sizeCount, sizes.count());
-    PopulateStockColorMenu(colors, bundle.get(), JobContext::Job);
+    EXPECT_EQ(PopulateStockColorMenu(colors, bundle.get(), JobContext::Job), 22);
     PopulateStockTypeMenu(types, bundle.get(), JobContext::Job);
-
-    ASSERT_EQ(colors.count(), 22);
-    EXPECT_EQ(*colors.item(1),
-              (MenuItem{QStringLiteral("Printer Default"), kStockColorCommand, 23}));
-    EXPECT_EQ(colors.item(colors.findReferenceValue(2))->text, QStringLiteral("Blue"));
-    EXPECT_TRUE(hasValue(colors, 22)) << "the job keeps Unspecified";
-
+    for (const auto& [menu, command] : {std::pair{&sizes, kStockSizeCommand},
+                                        {&colors, kStockColorCommand},
+                                        {&types, kStockTypeCommand}})
+        for (const MenuItem& item : menu->items())
+            EXPECT_EQ(item.commandId, command);
+    EXPECT_EQ(*colors.item(1), (MenuItem{"Printer Default", kStockColorCommand, 23}));
+    EXPECT_EQ(colors.item(colors.findReferenceValue(2))->text, "Blue");
+    EXPECT_TRUE(colors.findReferenceValue(22)) << "the job keeps Unspecified";
     EXPECT_EQ(types.item(1)->referenceValue, 23);
-    EXPECT_TRUE(hasValue(types, 23));
-    EXPECT_EQ(types.item(types.findReferenceValue(1))->text, QStringLiteral("Plain"));
-    for (const MenuItem& item : types.items())
-        EXPECT_EQ(item.commandId, kStockTypeCommand);
-
-    EXPECT_EQ(*sizes.item(1), (MenuItem{QStringLiteral("Letter"), kStockSizeCommand, 1}));
-    EXPECT_TRUE(hasValue(sizes, kCustomPageSize)) << "the printer takes custom sizes";
-    EXPECT_FALSE(hasValue(sizes, kUnset));
+    EXPECT_EQ(types.item(types.findReferenceValue(1))->text, "Plain");
+    EXPECT_EQ(*sizes.item(1), (MenuItem{"Letter", kStockSizeCommand, 1}));
+    EXPECT_TRUE(sizes.findReferenceValue(kCustomPageSize)) << "the printer takes custom sizes";
+    EXPECT_FALSE(sizes.findReferenceValue(kUnset));
 }
 
-class SpecialPageMenusTest : public SamplePrinterTest,
-                             public ::testing::WithParamInterface<JobContext>
-{
-};
-
-TEST_P(SpecialPageMenusTest, StartWithUseJobSettingAndDropThePrinterDefaults)
+TEST_F(StockMenusTest, SpecialPageMenusStartWithUseJobSettingAndDropThePrinterDefaults)
 {
     MenuModel jobColors, jobTypes, jobSizes;
     PopulateStockColorMenu(jobColors, bundle.get(), JobContext::Job);
     PopulateStockTypeMenu(jobTypes, bundle.get(), JobContext::Job);
     PopulateStockSizeMenu(jobSizes, bundle.get(), JobContext::Job);
-
-    MenuModel colors, types, sizes;
-    PopulateStockColorMenu(colors, bundle.get(), GetParam());
-    PopulateStockTypeMenu(types, bundle.get(), GetParam());
-    PopulateStockSizeMenu(sizes, bundle.get(), GetParam());
-    for (auto [menu, command] :
-         {std::pair{&colors, kStockColorCommand}, std::pair{&types, kStockTypeCommand},
-          std::pair{&sizes, kStockSizeCommand}}) {
-        EXPECT_EQ(*menu->item(1), (MenuItem{QStringLiteral("Use Job Setting"), command, kUnset}));
-    }
-    EXPECT_FALSE(hasValue(colors, 22));
-    EXPECT_TRUE(hasValue(types, 22)) << "only Unspecified goes from the colours";
-    EXPECT_FALSE(hasValue(types, 23));
-    EXPECT_TRUE(hasValue(colors, 23)) << "only SystemDefault goes from the types";
-
-    // Everything else stays in the printer's order.
-    auto expectedColors = valuesOf(jobColors);
+    // The job's colours without Unspecified (22) after "Use Job Setting".
+    std::vector<std::int32_t> expectedColors = ValuesOf(jobColors);
     std::erase(expectedColors, 22);
     expectedColors.insert(expectedColors.begin(), kUnset);
-    EXPECT_EQ(valuesOf(colors), expectedColors);
-    EXPECT_EQ(types.count(), jobTypes.count());
-    EXPECT_EQ(sizes.count(), jobSizes.count() + 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(CoversInsertsExceptions, SpecialPageMenusTest,
-                         ::testing::Values(JobContext::Covers, JobContext::Inserts,
-                                           JobContext::ExceptionPages));
-
-TEST_F(StockMenusTest, StockMenuOffersTheInserterOnlyToCoversAndInserts)
-{
-    for (JobContext context :
-         {JobContext::Job, JobContext::Covers, JobContext::Inserts, JobContext::ExceptionPages}) {
-        StockMenu menu{{{QStringLiteral("left over")}, std::nullopt}};
-        PopulateStockMenu(menu, bundle.get(), context);
-        const bool inserter = context == JobContext::Covers || context == JobContext::Inserts;
-        ASSERT_EQ(menu.size(), inserter ? 5u : 4u) << static_cast<int>(context);
-        EXPECT_EQ(menu[0].item.text, QStringLiteral("Other Color"));
-        ASSERT_TRUE(menu[0].submenu);
-        EXPECT_EQ(menu[0].submenu->item(1)->commandId, kStockColorCommand);
-        EXPECT_EQ(menu[1].item.text, QStringLiteral("Other Type"));
-        ASSERT_TRUE(menu[1].submenu);
-        EXPECT_EQ(menu[1].submenu->item(1)->commandId, kStockTypeCommand);
-        EXPECT_TRUE(menu[2].item.separator && menu[3].item.separator);
-        if (inserter) {
-            EXPECT_EQ(menu[4].item, (MenuItem{QStringLiteral("Post-Print Inserter"),
-                                              kStockSourceCommand, kInstalledFeatureSource}));
-        }
+    for (const JobContext context :
+         {JobContext::Covers, JobContext::Inserts, JobContext::ExceptionPages}) {
+        SCOPED_TRACE(static_cast<int>(context));
+        MenuModel colors, types, sizes;
+        PopulateStockColorMenu(colors, bundle.get(), context);
+        PopulateStockTypeMenu(types, bundle.get(), context);
+        PopulateStockSizeMenu(sizes, bundle.get(), context);
+        for (const auto& [menu, command] : {std::pair{&colors, kStockColorCommand},
+                                            {&types, kStockTypeCommand},
+                                            {&sizes, kStockSizeCommand}})
+            EXPECT_EQ(*menu->item(1), (MenuItem{"Use Job Setting", command, kUnset}));
+        EXPECT_EQ(ValuesOf(colors), expectedColors);
+        // Only SystemDefault (23) goes from the types, and it alone.
+        EXPECT_FALSE(types.findReferenceValue(23));
+        EXPECT_TRUE(types.findReferenceValue(22));
+        EXPECT_EQ(types.count(), jobTypes.count());
+        EXPECT_EQ(sizes.count(), jobSizes.count() + 1);
     }
 }
 
-TEST(StockMenus, NoInserterItemWithoutTheInserter)
+TEST(StockMenus, StockAndButtonMenusPerContextAndInstalledInserter)
 {
     QTemporaryDir folder;
-    testing::CurrentPrinterGuard printer(
-        testing::WriteSampleVariant(folder, {{"Option9", "False"}}));
+    const QString noInserter = testing::WriteSampleVariant(folder, {{"Option9", "False"}});
     const auto bundle = testing::PluginBundle();
-    StockMenu menu;
-    PopulateStockMenu(menu, bundle.get(), JobContext::Covers);
-    EXPECT_EQ(menu.size(), 4u);
+    const QString stock = "Other Color>, Other Type>, -, -";
+    const QString inserter = stock + ", Post-Print Inserter";
+    const std::tuple<JobContext, bool, QString> cases[] = {
+        {JobContext::Job, true, stock},        {JobContext::Covers, true, inserter},
+        {JobContext::Inserts, true, inserter}, {JobContext::ExceptionPages, true, stock},
+        {JobContext::Covers, false, stock},
+    };
+    for (const auto& [context, installed, expected] : cases) {
+        SCOPED_TRACE(static_cast<int>(context));
+        testing::CurrentPrinterGuard printer(installed ? testing::kSamplePpd : noInserter);
+        StockMenu menu{{{"left over"}, std::nullopt}};
+        PopulateStockMenu(menu, bundle.get(), context);
+        EXPECT_EQ(Describe(menu), expected);
+        if (expected == inserter)
+            EXPECT_EQ(menu[4].item, (MenuItem{"Post-Print Inserter", kStockSourceCommand,
+                                              kInstalledFeatureSource}));
+        PopulateStockButtonMenu(menu, bundle.get(), context);
+        EXPECT_EQ(Describe(menu), "Paper Size>, " + expected +
+                                      ", -, Default Stock, Advanced Stock Selection\u2026");
+        EXPECT_EQ(menu.back().item.commandId, kStockAdvancedCommand);
+    }
 }
 
 TEST(StockMenus, WithoutAPrinterOnlyUseJobSettingRemains)
@@ -130,21 +113,6 @@ TEST(StockMenus, WithoutAPrinterOnlyUseJobSettingRemains)
     EXPECT_EQ(PopulateStockColorMenu(colors, nullptr, JobContext::Inserts), 1);
     EXPECT_EQ(*colors.item(1), (MenuItem{kStringNotFound, kStockColorCommand, kUnset}));
     EXPECT_EQ(PopulateStockColorMenu(colors, nullptr, JobContext::Job), 0);
-}
-
-TEST_F(StockMenusTest, ButtonMenuAddsSizesDefaultAndAdvanced)
-{
-    StockMenu menu;
-    PopulateStockButtonMenu(menu, bundle.get(), JobContext::Covers);
-    ASSERT_EQ(menu.size(), 9u);
-    EXPECT_EQ(menu[0].item.text, QStringLiteral("Paper Size"));
-    ASSERT_TRUE(menu[0].submenu);
-    EXPECT_EQ(menu[0].submenu->item(2)->commandId, kStockSizeCommand);
-    EXPECT_EQ(menu[1].item.text, QStringLiteral("Other Color"));
-    EXPECT_EQ(menu[5].item.commandId, kStockSourceCommand);
-    EXPECT_TRUE(menu[6].item.separator);
-    EXPECT_EQ(menu[7].item.commandId, kStockDefaultCommand);
-    EXPECT_EQ(menu[8].item.commandId, kStockAdvancedCommand);
 }
 
 } // namespace

@@ -7,104 +7,66 @@
 namespace orvan {
 namespace {
 
-class StockSummaryTest : public testing::SamplePrinterTest
+using StockSummaryTest = testing::SamplePrinterTest;
+
+TEST_F(StockSummaryTest, LinesPerContext)
 {
-protected:
-    QString summary(const Stock& stock, JobContext context = JobContext::Covers)
+    constexpr auto job = JobContext::Job, covers = JobContext::Covers;
+    const struct
     {
-        return GenerateStockSummary(bundle.get(), context, stock, QStringLiteral(" | "));
+        bool jobDefaults; // else every attribute unset
+        void (*change)(Stock&);
+        JobContext context;
+        const char* summary;
+    } cases[] = {
+        // The job names colour and type even when unset, never the size.
+        {true, [](Stock&) {}, job, "- White | - Plain"},
+        {true, [](Stock&) {}, covers, "- Letter | - White | - Plain"},
+        {false, [](Stock&) {}, job, "- Printer Default | - Printer Default"},
+        {false, [](Stock&) {}, JobContext::Inserts, ""},
+        {false, [](Stock& s) { s.setSize(4); }, JobContext::ExceptionPages, "- A4"},
+        // A custom name alone or first.
+        {true, [](Stock& s) { s.setCustomName("Q"); }, job, "Stock Name: Q | - White | - Plain"},
+        {true, [](Stock& s) { s.setCustomName("Q"), s.setCustomNameOnly(true); }, job,
+         "Stock Name: Q"},
+        {true, [](Stock& s) { s.setCustomNameOnly(true); }, job, ""},
+        // Custom colours, named types and tab counts above zero.
+        {false, [](Stock& s) { s.setColor(10), s.setCustomColor("Sky"); }, covers, "Color: Sky"},
+        {false, [](Stock& s) { s.setType(7), s.setCustomType("Bond"), s.setModulus(8); }, covers,
+         "- Bond"},
+        {false, [](Stock& s) { s.setType(6), s.setCustomType("Bond"), s.setModulus(8); }, covers,
+         "- Bond (8)"},
+        {false, [](Stock& s) { s.setType(4), s.setModulus(8); }, covers, "- Pre-Cut Tab Stock (8)"},
+        {false, [](Stock& s) { s.setType(24), s.setModulus(5); }, covers, "- Tab Stock (5)"},
+        {false, [](Stock& s) { s.setType(24), s.setModulus(0); }, covers, "- Tab Stock"},
+        {false, [](Stock& s) { s.setType(24); }, covers, "- Tab Stock"},
+        {false, [](Stock& s) { s.setType(33), s.setModulus(3); }, covers, "- Heavy Tab Stock (3)"},
+        {false, [](Stock& s) { s.setType(12), s.setModulus(3); }, covers, "- Card Stock"},
+        // The source decides first; a tray is not described here.
+        {true, [](Stock& s) { s.setSource(10), s.setCustomName("Q"); }, covers,
+         "- Post-Print Inserter"},
+        {true, [](Stock& s) { s.setSource(10); }, job, "- Post-Print Inserter"},
+        {true, [](Stock& s) { s.setSource(3); }, covers, ""},
+    };
+    for (const auto& c : cases) {
+        Stock stock(nullptr);
+        if (c.jobDefaults)
+            DefaultStock(stock, job);
+        c.change(stock);
+        EXPECT_EQ(GenerateStockSummary(bundle.get(), c.context, stock, " | "), c.summary);
     }
-};
-
-TEST_F(StockSummaryTest, JobListsColourAndTypeButNeverTheSize)
-{
-    Stock stock;
-    DefaultStock(stock, JobContext::Job);
-    EXPECT_EQ(summary(stock, JobContext::Job), QStringLiteral("- White | - Plain"));
-    EXPECT_EQ(summary(stock, JobContext::Covers), QStringLiteral("- Letter | - White | - Plain"));
-
-    // Unset attributes: the job still names them, a special page leaves them out.
-    const Stock inherited(nullptr);
-    EXPECT_EQ(summary(inherited, JobContext::Job),
-              QStringLiteral("- Printer Default | - Printer Default"));
-    EXPECT_EQ(summary(inherited, JobContext::Inserts), QString());
-    Stock sizeOnly(nullptr);
-    sizeOnly.setSize(4);
-    EXPECT_EQ(summary(sizeOnly, JobContext::ExceptionPages), QStringLiteral("- A4"));
-}
-
-TEST_F(StockSummaryTest, CustomNameAloneOrFirst)
-{
-    Stock stock;
-    DefaultStock(stock, JobContext::Job);
-    stock.setCustomName(QStringLiteral("Quarterly"));
-    EXPECT_EQ(summary(stock, JobContext::Job),
-              QStringLiteral("Stock Name: Quarterly | - White | - Plain"));
-    stock.setCustomNameOnly(true);
-    EXPECT_EQ(summary(stock, JobContext::Job), QStringLiteral("Stock Name: Quarterly"));
-    stock.setCustomName(QString());
-    EXPECT_EQ(summary(stock, JobContext::Job), QString()) << "name only, but no name";
-}
-
-TEST_F(StockSummaryTest, CustomColourAndNamedTypes)
-{
-    Stock stock(nullptr);
-    stock.setColor(kCustomMediaColor);
-    stock.setCustomColor(QStringLiteral("Sky"));
-    stock.setType(kNamedMediaType);
-    stock.setCustomType(QStringLiteral("Linen Bond"));
-    EXPECT_EQ(summary(stock), QStringLiteral("Color: Sky | - Linen Bond"));
-
-    stock.setType(kNamedTabMediaType);
-    stock.setModulus(8);
-    EXPECT_EQ(summary(stock), QStringLiteral("Color: Sky | - Linen Bond (8)"));
-    stock.setType(kPrecutTabMediaType);
-    EXPECT_EQ(summary(stock), QStringLiteral("Color: Sky | - Pre-Cut Tab Stock (8)"));
-}
-
-TEST_F(StockSummaryTest, TabStocksShowTheirCountOnlyAboveZero)
-{
-    Stock stock(nullptr);
-    stock.setType(24);
-    stock.setModulus(5);
-    EXPECT_EQ(summary(stock), QStringLiteral("- Tab Stock (5)"));
-    stock.setModulus(0);
-    EXPECT_EQ(summary(stock), QStringLiteral("- Tab Stock"));
-    stock.setModulus(kUnset);
-    EXPECT_EQ(summary(stock), QStringLiteral("- Tab Stock"));
-    stock.setType(33);
-    stock.setModulus(3);
-    EXPECT_EQ(summary(stock), QStringLiteral("- Heavy Tab Stock (3)"));
-    stock.setType(12);
-    EXPECT_EQ(summary(stock), QStringLiteral("- Card Stock")) << "no count for other types";
-}
-
-TEST_F(StockSummaryTest, SourceDecidesFirst)
-{
-    Stock stock;
-    DefaultStock(stock, JobContext::Covers);
-    stock.setColor(2);
-    stock.setCustomName(QStringLiteral("Hidden"));
-    stock.setSource(kInstalledFeatureSource);
-    EXPECT_EQ(summary(stock), QStringLiteral("- Post-Print Inserter"));
-    EXPECT_EQ(summary(stock, JobContext::Job), QStringLiteral("- Post-Print Inserter"));
-    stock.setSource(3); // a tray: not described here
-    EXPECT_EQ(summary(stock), QString());
 }
 
 TEST_F(StockSummaryTest, ShownTextFallsBackByContext)
 {
     Stock stock(nullptr);
-    EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Covers),
-              QStringLiteral("Use Job Setting"));
+    EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Covers), "Use Job Setting");
     stock.setSource(3);
-    EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Job),
-              QStringLiteral("Printer Default"));
+    EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Job), "Printer Default");
     stock.setSource(kUnset);
     stock.setColor(5);
     stock.setType(10);
-    EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Inserts),
-              QStringLiteral("- Pink\n- Recycled"));
+    EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Inserts), "- Pink\n- Recycled");
     EXPECT_EQ(StockSummaryText(bundle.get(), nullptr, JobContext::Job), QString());
 }
 

@@ -7,6 +7,7 @@
 #include "printerdesc/PPDAccess.h"
 #include "printerdesc/tests/PpdTestSupport.h"
 #include "settings/Bundle.h"
+#include "stock/Stock.h"
 
 #include <gtest/gtest.h>
 
@@ -33,6 +34,33 @@ public:
     CurrentPrinterGuard(const CurrentPrinterGuard&) = delete;
     CurrentPrinterGuard& operator=(const CurrentPrinterGuard&) = delete;
 };
+
+// A stock dictionary as "key=value" pairs in key order, separated by "; ".
+inline QString Flat(const PropertyValue& dictionary)
+{
+    QStringList entries;
+    for (const auto& [key, value] : dictionary.asDictionary())
+        entries << key + '=' +
+                       (value.isNumber()    ? QString::number(*value.toInteger())
+                        : value.isBoolean() ? QString(*value.toBool() ? "true" : "false")
+                                            : value.toString());
+    return entries.join("; ");
+}
+
+// The dictionary Flat shows as the text: whole numbers, "true" and strings.
+inline PropertyValue Unflat(const QString& text)
+{
+    PropertyValue dictionary = PropertyValue::dictionary();
+    for (const QString& entry : text.split("; ", Qt::SkipEmptyParts)) {
+        const QString key = entry.section('=', 0, 0), value = entry.section('=', 1);
+        bool number = false;
+        const long long integer = value.toLongLong(&number);
+        dictionary.insert(key, number            ? PropertyValue::integer(integer)
+                               : value == "true" ? PropertyValue::boolean(true)
+                                                 : PropertyValue(value));
+    }
+    return dictionary;
+}
 
 inline std::unique_ptr<Bundle> PluginBundle()
 {
