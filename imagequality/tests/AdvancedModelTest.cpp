@@ -35,7 +35,7 @@ protected:
         EXPECT_EQ(model.handleControlHit(controlID, item, nullptr), kEventNotHandled);
     }
 
-    testing::CurrentPpd ppd{testing::SamplePpdPath()};
+    testing::CurrentPpd ppd;
     AdvancedModel model;
     PrintSession session;
 };
@@ -45,17 +45,17 @@ TEST_F(AdvancedModelTest, FaceDownWritesTrueWhichReadsBackAsFaceUp)
     choose(kOutputOptionsControlID, 1);
     EXPECT_EQ(model.outputOption(), 1); // the item number, not the item's value 0
     ASSERT_EQ(model.sync(&session, false), kNoError);
-    EXPECT_EQ(PpdChoice(session, "QVOutputOption"), QStringLiteral("True"));
+    EXPECT_EQ(PpdChoice(session, "QVOutputOption"), "True");
     ASSERT_EQ(model.sync(&session, true), kNoError);
-    EXPECT_EQ(shownText(kOutputOptionsControlID), QStringLiteral("Face Up"));
+    EXPECT_EQ(shownText(kOutputOptionsControlID), "Face Up");
 
     // Face Up (item 2) has no choice: the ticket keeps what it has.
     SetPpdChoice(session, "QVOutputOption", "False");
     choose(kOutputOptionsControlID, 2);
     ASSERT_EQ(model.sync(&session, false), kNoError);
-    EXPECT_EQ(PpdChoice(session, "QVOutputOption"), QStringLiteral("False"));
+    EXPECT_EQ(PpdChoice(session, "QVOutputOption"), "False");
     ASSERT_EQ(model.sync(&session, true), kNoError);
-    EXPECT_EQ(shownText(kOutputOptionsControlID), QStringLiteral("Face Down"));
+    EXPECT_EQ(shownText(kOutputOptionsControlID), "Face Down");
 }
 
 TEST_F(AdvancedModelTest, BookletOrderWritesQujnAndReadsTheFirstItemOrKeepsTheSelection)
@@ -64,7 +64,7 @@ TEST_F(AdvancedModelTest, BookletOrderWritesQujnAndReadsTheFirstItemOrKeepsTheSe
     choose(kBookletImageOrderControlID, 2);
     ASSERT_EQ(model.sync(&session, true), kNoError);
     EXPECT_EQ(model.bookletImageOrder(), kDefaultBookletImageOrder);
-    EXPECT_EQ(shownText(kBookletImageOrderControlID), QStringLiteral("Left to Right"));
+    EXPECT_EQ(shownText(kBookletImageOrderControlID), "Left to Right");
     ASSERT_EQ(model.sync(&session, false), kNoError);
     const TicketItem* item = session.printSettings().item(kBookletLayoutOrderKey);
     ASSERT_NE(item, nullptr);
@@ -77,7 +77,7 @@ TEST_F(AdvancedModelTest, BookletOrderWritesQujnAndReadsTheFirstItemOrKeepsTheSe
     ASSERT_EQ(model.sync(&session, false), kNoError);
     EXPECT_EQ(session.printSettings().integer(kBookletLayoutOrderKey), kQujn);
     ASSERT_EQ(model.sync(&session, true), kNoError);
-    EXPECT_EQ(shownText(kBookletImageOrderControlID), QStringLiteral("Right to Left"));
+    EXPECT_EQ(shownText(kBookletImageOrderControlID), "Right to Left");
 }
 
 TEST_F(AdvancedModelTest, BannerAndOffsetComeBackUnchanged)
@@ -85,16 +85,16 @@ TEST_F(AdvancedModelTest, BannerAndOffsetComeBackUnchanged)
     SetPpdChoice(session, "JCLBanner", "True");
     SetPpdChoice(session, "Jog", "EndOfSet");
     ASSERT_EQ(model.sync(&session, true), kNoError);
-    EXPECT_EQ(shownText(kBannerSheetControlID), QStringLiteral("On"));
-    EXPECT_EQ(shownText(kRequestOffsetControlID), QStringLiteral("Offset Each Set"));
+    EXPECT_EQ(shownText(kBannerSheetControlID), "On");
+    EXPECT_EQ(shownText(kRequestOffsetControlID), "Offset Each Set");
     session.printSettings().ppdDictionary() = PropertyValue::dictionary();
     ASSERT_EQ(model.sync(&session, false), kNoError);
-    EXPECT_EQ(PpdChoice(session, "JCLBanner"), QStringLiteral("True"));
-    EXPECT_EQ(PpdChoice(session, "Jog"), QStringLiteral("EndOfSet"));
+    EXPECT_EQ(PpdChoice(session, "JCLBanner"), "True");
+    EXPECT_EQ(PpdChoice(session, "Jog"), "EndOfSet");
 
     choose(kRequestOffsetControlID, 2);
     ASSERT_EQ(model.sync(&session, false), kNoError);
-    EXPECT_EQ(PpdChoice(session, "Jog"), QStringLiteral("None"));
+    EXPECT_EQ(PpdChoice(session, "Jog"), "None");
 }
 
 TEST_F(AdvancedModelTest, EventsPassOnAndOnlyAboutAsksForADialog)
@@ -110,7 +110,7 @@ TEST_F(AdvancedModelTest, EventsPassOnAndOnlyAboutAsksForADialog)
 
 TEST(AdvancedModelDefaults, WithoutTicketChoicesThePpdDefaultsAreRead)
 {
-    testing::CurrentPpd ppd(testing::TestPpdPath("no-resolution.ppd"));
+    testing::CurrentPpd ppd(testing::kNoResolutionPpd);
     AdvancedModel model;
     ::testing::internal::CaptureStderr(); // it has no JCLBanner
     model.load(&testing::PluginBundle(), ppd.get());
@@ -120,13 +120,13 @@ TEST(AdvancedModelDefaults, WithoutTicketChoicesThePpdDefaultsAreRead)
     EXPECT_EQ(model.outputOption(), 1);  // default True
     EXPECT_EQ(model.requestOffset(), 1); // default EndOfSet
     ASSERT_EQ(model.sync(&session, false), kNoError);
-    EXPECT_FALSE(session.printSettings().ppdDictionary().contains(QStringLiteral("JCLBanner")));
+    EXPECT_FALSE(session.printSettings().ppdDictionary().contains("JCLBanner"));
 }
 
 TEST(ProductInfo, ComesFromTheBundlesInfoDictionary)
 {
     QTemporaryDir folder;
-    QFile info(folder.filePath(QStringLiteral("Info.plist")));
+    QFile info(folder.filePath("Info.plist"));
     ASSERT_TRUE(info.open(QIODevice::WriteOnly));
     info.write(R"(<?xml version="1.0" encoding="UTF-8"?>
 <plist version="1.0"><dict>
@@ -138,10 +138,9 @@ TEST(ProductInfo, ComesFromTheBundlesInfoDictionary)
     info.close();
     const Bundle bundle(folder.path()); // no string tables: the built-in formats
     const ProductInfo product = ProductInfoFromBundle(&bundle);
-    EXPECT_EQ(ProductAboutTitle(&bundle, product), QStringLiteral("About Test Features"));
-    EXPECT_EQ(ProductVersionLine(&bundle, product), QStringLiteral("Version 2.1 (77)"));
-    EXPECT_EQ(ProductVersionLine(&testing::PluginBundle(), product),
-              QStringLiteral("Version 2.1 (build 77)"));
+    EXPECT_EQ(ProductAboutTitle(&bundle, product), "About Test Features");
+    EXPECT_EQ(ProductVersionLine(&bundle, product), "Version 2.1 (77)");
+    EXPECT_EQ(ProductVersionLine(&testing::PluginBundle(), product), "Version 2.1 (build 77)");
 }
 
 } // namespace

@@ -2,10 +2,6 @@
 // resolution and toner saver against real PPDs.
 #include "imagequality/ImageOptionsModel.h"
 #include "imagequality/tests/PanelTestSupport.h"
-#include "settings/DictionaryAccess.h"
-#include "settings/Ticket.h"
-
-#include <gtest/gtest.h>
 
 namespace orvan {
 namespace {
@@ -39,8 +35,8 @@ TEST(InvertImage, ReadsEachKeyWithItsOwnTest)
         {n(0), n(0), false, false},
         {n(-1), n(-1), false, true},
         {n(7), n(7), true, true},
-        {PropertyValue(), n(1), false, true},                              // absent key
-        {QStringLiteral("1"), PropertyValue::boolean(true), false, false}, // not numbers
+        {PropertyValue(), n(1), false, true},              // absent key
+        {"1", PropertyValue::boolean(true), false, false}, // not numbers
     };
     for (const auto& c : cases) {
         II_Options options{false, !c.expectNegative, !c.expectMirror};
@@ -73,100 +69,71 @@ TEST(InvertImage, WritingTakesTheFlagsFromThePresenceOfTheControls)
         ASSERT_EQ(InvertImageSync(&options, &ticket, false, c.controls), kNoError);
         const TicketItem* item = ticket.item(kInvertImageOptionsKey);
         ASSERT_NE(item, nullptr);
-        EXPECT_EQ(item->client, QStringLiteral("Q"));
-        long negative = -5, mirror = -5;
-        EXPECT_TRUE(GetCFIndexFromCFDictionary(&item->value, kNegativeImageKey, &negative));
-        EXPECT_TRUE(GetCFIndexFromCFDictionary(&item->value, kMirrorImageKey, &mirror));
-        EXPECT_EQ(std::make_pair(negative, mirror), std::make_pair(c.negative, c.mirror));
+        EXPECT_EQ(item->client, "Q");
+        EXPECT_EQ(testing::InvertFlags(ticket), std::pair(c.negative, c.mirror));
     }
 }
 
-TEST(ImageOptionsModel, ReadsTheTicketChoiceElseThePpdDefault)
+TEST(ImageOptionsModel, ReadsAndWritesTheChoicesLeavingAnUnknownOneAlone)
 {
-    CurrentPpd ppd(testing::SamplePpdPath());
+    CurrentPpd ppd;
     ImageOptionsModel model;
     model.load(ppd.get());
     PrintSession session;
-
     model.setTonerSaverOn(true);
     ASSERT_EQ(model.sync(&session, true, {}), kNoError);
-    EXPECT_EQ(model.resolution(), 2); // the PPD's 600x600dpi
+    EXPECT_EQ(model.resolution(), 2); // the PPD's defaults: 600x600dpi, no toner saver
     EXPECT_FALSE(model.tonerSaverOn());
 
     SetPpdChoice(session, "Resolution", "1200x1200dpi");
     SetPpdChoice(session, "QVEconomode", "Draft");
     ASSERT_EQ(model.sync(&session, true, {}), kNoError);
     EXPECT_EQ(model.resolution(), 4);
-    EXPECT_EQ(model.resolutionMenu().item(model.resolutionItem())->text,
-              QStringLiteral("1200 dpi"));
+    EXPECT_EQ(model.resolutionMenu().item(model.resolutionItem())->text, "1200 dpi");
     EXPECT_TRUE(model.tonerSaverOn());
 
-    SetPpdChoice(session, "Resolution", "2400x2400dpi");
-    ASSERT_EQ(model.sync(&session, true, {}), kNoError);
-    EXPECT_EQ(model.resolution(), -1);
-    EXPECT_EQ(model.resolutionItem(), 0);
-}
-
-TEST(ImageOptionsModel, WritesTheChoicesAndLeavesAnUnknownChoiceAlone)
-{
-    CurrentPpd ppd(testing::SamplePpdPath());
-    ImageOptionsModel model;
-    model.load(ppd.get());
-    PrintSession session;
     model.chooseResolution(7);
-    model.setTonerSaverOn(true);
     ASSERT_EQ(model.sync(&session, false, {}), kNoError);
-    EXPECT_EQ(PpdChoice(session, "Resolution"), QStringLiteral("1800x1800dpi"));
-    EXPECT_EQ(PpdChoice(session, "QVEconomode"), QStringLiteral("Draft"));
+    EXPECT_EQ(PpdChoice(session, "Resolution"), "1800x1800dpi");
+    EXPECT_EQ(PpdChoice(session, "QVEconomode"), "Draft");
 
-    // -1 has no choice: the ticket keeps the choice it came with.
+    // An unknown choice selects nothing (-1), which writes nothing back.
     SetPpdChoice(session, "Resolution", "2400x2400dpi");
     ASSERT_EQ(model.sync(&session, true, {}), kNoError);
+    EXPECT_EQ(std::pair(model.resolution(), model.resolutionItem()), std::pair(-1, 0));
     ASSERT_EQ(model.sync(&session, false, {}), kNoError);
-    EXPECT_EQ(PpdChoice(session, "Resolution"), QStringLiteral("2400x2400dpi"));
+    EXPECT_EQ(PpdChoice(session, "Resolution"), "2400x2400dpi");
     EXPECT_EQ(model.sync(nullptr, false, {}), kSyncMissingContext);
 }
 
 TEST(ImageOptionsModel, PpdWithoutResolutionGivesAnEmptyMenuAndOneDiagnostic)
 {
-    CurrentPpd ppd(testing::TestPpdPath("no-resolution.ppd"));
+    CurrentPpd ppd(testing::kNoResolutionPpd);
     ImageOptionsModel model;
     ::testing::internal::CaptureStderr();
     model.load(ppd.get());
     EXPECT_EQ(::testing::internal::GetCapturedStderr(),
               "Expected PPD option not found: Resolution\n");
     EXPECT_TRUE(model.resolutionMenu().isEmpty());
-
     PrintSession session;
     ASSERT_EQ(model.sync(&session, true, {}), kNoError);
     EXPECT_TRUE(model.tonerSaverOn()); // this PPD defaults to Draft
     ASSERT_EQ(model.sync(&session, false, {}), kNoError);
-    EXPECT_FALSE(session.printSettings().ppdDictionary().contains(QStringLiteral("Resolution")));
+    EXPECT_FALSE(session.printSettings().ppdDictionary().contains("Resolution"));
 }
 
-TEST(ImageOptionsModel, PicturesFollowTheStateAndAreInTheBundle)
+// (The panel's tests check which picture each state shows.)
+TEST(ImageOptionsModel, PicturesAreInTheBundleAndAnUnknownResolutionShows600)
 {
     ImageOptionsModel model;
-    const std::pair<std::int32_t, const char*> resolutions[] = {
-        {1, "600"}, {2, "600"}, {3, "1200"}, {4, "1200"}, {7, "1800"}, {-1, "600"}};
-    for (const auto& [value, dpi] : resolutions) {
-        model.chooseResolution(value);
-        EXPECT_EQ(model.resolutionPicture(),
-                  QStringLiteral("ImageOptions_Resolution_%1.png").arg(QLatin1String(dpi)));
-    }
-    model.setTonerSaverOn(true);
-    model.setNegativeImage(true);
-    EXPECT_EQ(model.tonerSaverPicture(), QStringLiteral("ImageOptions_TonerSaver_On.png"));
-    EXPECT_EQ(model.invertImagePicture(), QStringLiteral("ImageOptions_InvertImage_Off.png"));
-    model.setMirrorImage(true);
-    EXPECT_EQ(model.invertImagePicture(), QStringLiteral("ImageOptions_InvertImage_Mirror.png"));
+    model.chooseResolution(-1);
+    EXPECT_EQ(model.resolutionPicture(), "ImageOptions_Resolution_600.png");
     for (const char* name :
          {"Resolution_600", "Resolution_1200", "Resolution_1800", "TonerSaver_On", "TonerSaver_Off",
           "InvertImage_Off", "InvertImage_Mirror"})
-        EXPECT_FALSE(
-            testing::PluginBundle()
-                .resourcePath(QStringLiteral("images/ImageOptions_%1.png").arg(QLatin1String(name)))
-                .isEmpty())
+        EXPECT_FALSE(testing::PluginBundle()
+                         .resourcePath(QStringLiteral("images/ImageOptions_%1.png").arg(name))
+                         .isEmpty())
             << name;
 }
 

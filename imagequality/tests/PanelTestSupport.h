@@ -25,21 +25,15 @@ inline void PrintTo(const QString& text, std::ostream* os)
 
 namespace orvan::testing {
 
-inline QString SamplePpdPath()
-{
-    return QStringLiteral(ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd");
-}
-
-inline QString TestPpdPath(const char* name)
-{
-    return QStringLiteral(ORVAN_SOURCE_DIR "/imagequality/tests/ppd/") + QLatin1String(name);
-}
+inline const QString kSamplePpd = ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd";
+inline const QString kNoResolutionPpd =
+    ORVAN_SOURCE_DIR "/imagequality/tests/ppd/no-resolution.ppd";
 
 // Makes the PPD the current one for the guard's lifetime.
 class CurrentPpd
 {
 public:
-    explicit CurrentPpd(const QString& path)
+    explicit CurrentPpd(const QString& path = kSamplePpd)
     {
         QString error;
         PpdFilePtr ppd = OpenPPDFile(path, &error);
@@ -62,15 +56,13 @@ inline const Bundle& PluginBundle()
 
 inline QString PpdChoice(const PrintSession& session, const char* keyword)
 {
-    const PropertyValue* choice =
-        session.printSettings().ppdDictionary().find(QLatin1String(keyword));
+    const PropertyValue* choice = session.printSettings().ppdDictionary().find(keyword);
     return choice ? choice->toString() : QString();
 }
 
 inline void SetPpdChoice(PrintSession& session, const char* keyword, const char* choice)
 {
-    session.printSettings().ppdDictionary().insert(QLatin1String(keyword),
-                                                   QString::fromLatin1(choice));
+    session.printSettings().ppdDictionary().insert(keyword, choice);
 }
 
 // The "NegativeImage" and "MirrorImage" numbers of the ticket's invert-image
@@ -92,13 +84,13 @@ inline void SetInvertFlags(Ticket& ticket, long negative, long mirror)
     ticket.setItem(kShellClient, kInvertImageOptionsKey, options);
 }
 
-// The strings of an array value (GetSummaryText's titles or values).
-inline QStringList Strings(const PropertyValue& array)
+// The strings of an array value (the summary's titles or values), joined.
+inline QString Joined(const PropertyValue& array)
 {
     QStringList strings;
     for (const PropertyValue& element : array.asArray())
         strings << element.toString();
-    return strings;
+    return strings.join(", ");
 }
 
 } // namespace orvan::testing
