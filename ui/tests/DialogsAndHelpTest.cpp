@@ -34,19 +34,15 @@ namespace {
 void whenShown(const QString& objectName, std::function<void(QWidget*)> step)
 {
     QTimer::singleShot(0, [objectName, step] {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (widget->objectName() == objectName && widget->isVisible()) {
-                step(widget);
-                return;
-            }
-        }
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (widget->objectName() == objectName && widget->isVisible())
+                return step(widget);
         ADD_FAILURE() << "no visible " << objectName.toStdString();
     });
-    QTimer::singleShot(5000, [objectName] {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
+    QTimer::singleShot(5000, [] {
+        for (QWidget* widget : QApplication::topLevelWidgets())
             if (auto* dialog = qobject_cast<QDialog*>(widget); dialog && dialog->isVisible())
                 dialog->reject();
-        }
     });
 }
 
@@ -130,15 +126,12 @@ TEST(SummaryView, ShowsTextReadOnlyAndRefusesANullText)
     EXPECT_EQ(UpdateSummaryTextView(&view, QString()), kBadParameter);
     EXPECT_EQ(UpdateSummaryTextView(static_cast<QTextEdit*>(nullptr), "x"), kBadParameter);
     EXPECT_EQ(UpdateSummaryTextView(&view, "Letter, White, Plain <b>"), kNoError);
-    EXPECT_EQ(view.toPlainText(), "Letter, White, Plain <b>");
+    EXPECT_EQ(view.toPlainText(), "Letter, White, Plain <b>"); // plain text, not markup
     EXPECT_TRUE(view.isReadOnly());
-
-    QPlainTextEdit plain;
-    EXPECT_EQ(UpdateSummaryTextView(&plain, "Covers: front"), kNoError);
-    EXPECT_EQ(plain.toPlainText(), "Covers: front");
-    EXPECT_TRUE(plain.isReadOnly());
+    QPlainTextEdit plain("old");
     EXPECT_EQ(UpdateSummaryTextView(&plain, ""), kNoError);
     EXPECT_EQ(plain.toPlainText(), "");
+    EXPECT_TRUE(plain.isReadOnly());
 }
 
 TEST(Help, BundleWithoutAHelpBookNameIsABadParameter)
@@ -208,10 +201,6 @@ TEST(Help, ThePluginsBookHasAStartPage)
 
 TEST(Alerts, LevelsShowAsMessageBoxIcons)
 {
-    EXPECT_EQ(AlertIcon(AlertLevel::Note), QMessageBox::Information);
-    EXPECT_EQ(AlertIcon(AlertLevel::Caution), QMessageBox::Warning);
-    EXPECT_EQ(AlertIcon(AlertLevel::Stop), QMessageBox::Critical);
-
     AlertPresenter previous = InstallMessageBoxAlertPresenter();
     QMessageBox::Icon shownIcon = QMessageBox::NoIcon;
     QString shownText;

@@ -1,3 +1,4 @@
+// Pop-up buttons and menus filled from setting maps and input histories.
 #include "ui/PopupMenus.h"
 
 #include "settings/Bundle.h"
@@ -13,6 +14,11 @@
 #include <gtest/gtest.h>
 
 using namespace orvan;
+
+inline void PrintTo(const QString& text, std::ostream* os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
 
 namespace {
 
@@ -32,48 +38,72 @@ constexpr _SettingMap kMenuMap[] = {
 class PopupMenusTest : public ::testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(m_dir.isValid());
-        qputenv("XDG_CONFIG_HOME", m_dir.path().toUtf8());
-    }
+    void SetUp() override { qputenv("XDG_CONFIG_HOME", m_dir.path().toUtf8()); }
     void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
+
+    // The items as "text value command" (the command's last three letters).
+    static QString items(const QComboBox& popup)
+    {
+        QStringList rows;
+        for (int i = 0; i < popup.count(); ++i) {
+            const std::int32_t value = PopupButtonItemTicketValue(&popup, i);
+            const std::uint32_t command = PopupButtonItemCommand(&popup, i);
+            rows << popup.itemText(i) + ' ' +
+                        (value == kUnsetValue ? "unset" : QString::number(value)) + ' ' +
+                        (command == kChooseCommand    ? "cho"
+                         : command == kHistoryCommand ? "his"
+                                                      : QString::number(command));
+        }
+        return rows.join(", ");
+    }
 
     QTemporaryDir m_dir;
     Bundle m_bundle{ORVAN_PLUGIN_DIR, "en"};
 };
 
-QStringList texts(const QComboBox& popup)
+TEST_F(PopupMenusTest, PopupsMirrorTheMapWithValuesCommandsAndHistories)
 {
-    QStringList result;
-    for (int i = 0; i < popup.count(); ++i)
-        result << popup.itemText(i);
-    return result;
-}
-
-} // namespace
-
-TEST_F(PopupMenusTest, PopupMirrorsTheMapWithValuesCommandsAndSeparators)
-{
+    PropertyValue file = PropertyValue::dictionary();
+    file.insert("Names", PropertyArray{"A", PropertyValue::integer(5), "B"});
+    ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
+    // Map rows, job context, history key and the row each entry follows,
+    // command override; the count (with the gated-out row), the items.
+    const struct
+    {
+        int context;
+        const char* history;
+        std::uint32_t command;
+        int count;
+        const char* items;
+    } cases[] = {
+        // clang-format off
+        {2, nullptr, 0, 5, "Printer Default 1 cho,  -5 0, STRING NOT FOUND 4 0, Use Job Setting unset 0"},
+        // The override replaces every row's command; the default row at context 0.
+        {0, nullptr, kHistoryCommand, 5,
+         "Printer Default 1 his,  -5 his, STRING NOT FOUND 4 his, Printer Default unset his"},
+        // History entries after their positions; only text entries count.
+        {0, "Names", 0, 7,
+         "Printer Default 1 cho, A 0 his,  -5 0, B 0 his, STRING NOT FOUND 4 0, Printer Default unset 0"},
+        {0, "None", 0, 5, "Printer Default 1 cho,  -5 0, STRING NOT FOUND 4 0, Printer Default unset 0"},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        QComboBox popup;
+        popup.addItem("left over");
+        const int count =
+            c.history
+                ? PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, c.context,
+                                                       c.history, 1, kHistoryCommand, 0)
+                : PopulatePopupButtonFromMap(&m_bundle, &popup, kMenuMap, c.context, c.command);
+        EXPECT_EQ(count, c.count);
+        EXPECT_EQ(PopupButtonMaximum(&popup), c.count);
+        EXPECT_EQ(MenuSourceMap(&popup), kMenuMap);
+        EXPECT_EQ(items(popup), c.items);
+        if (!c.history) // the separator
+            EXPECT_FALSE(popup.model()->flags(popup.model()->index(1, 0)) & Qt::ItemIsSelectable);
+    }
     QComboBox popup;
-    popup.addItem("left over");
-    EXPECT_EQ(PopulatePopupButtonFromMap(&m_bundle, &popup, kMenuMap, 2, 0), 5);
-    EXPECT_EQ(PopupButtonMaximum(&popup), 5);
-    EXPECT_EQ(MenuSourceMap(&popup), kMenuMap);
-    EXPECT_EQ(texts(popup),
-              QStringList({"Printer Default", "", "STRING NOT FOUND", "Use Job Setting"}));
-    EXPECT_EQ(PopupButtonItemTicketValue(&popup, 0), 1);
-    EXPECT_EQ(PopupButtonItemCommand(&popup, 0), kChooseCommand);
-    EXPECT_EQ(PopupButtonItemTicketValue(&popup, 1), -5);
-    EXPECT_FALSE(popup.model()->flags(popup.model()->index(1, 0)).testFlag(Qt::ItemIsSelectable));
-    EXPECT_EQ(PopupButtonItemTicketValue(&popup, 3), kUnsetValue);
     EXPECT_EQ(PopupButtonItemCommand(&popup, 9), 0u);
-
-    // The override replaces every row's command.
-    PopulatePopupButtonFromMap(&m_bundle, &popup, kMenuMap, 0, kHistoryCommand);
-    EXPECT_EQ(PopupButtonItemCommand(&popup, 0), kHistoryCommand);
-    EXPECT_EQ(popup.itemText(3), "Printer Default"); // the default row at job context 0
-
     EXPECT_EQ(PopulatePopupButtonFromMap(&m_bundle, nullptr, kMenuMap, 0, 0), 0);
 }
 
@@ -85,7 +115,6 @@ TEST_F(PopupMenusTest, SelectionByTicketValueLeavesTheSelectionWhenNoItemMatches
     EXPECT_TRUE(SetPopupButtonToTicketValue(&popup, 4));
     EXPECT_EQ(popup.currentIndex(), 2);
     EXPECT_EQ(GetPopupButtonTicketValue(&popup), 4);
-
     EXPECT_FALSE(SetPopupButtonToTicketValue(&popup, 3)); // its row is gated out
     EXPECT_FALSE(SetPopupButtonToTicketValue(&popup, 99));
     EXPECT_EQ(popup.currentIndex(), 2);
@@ -97,43 +126,21 @@ TEST_F(PopupMenusTest, SelectionByTicketValueLeavesTheSelectionWhenNoItemMatches
     EXPECT_EQ(GetPopupButtonTicketValue(&empty), 0);
 }
 
-TEST_F(PopupMenusTest, HistoryEntriesAreInsertedAfterTheirPositions)
-{
-    PropertyValue file = PropertyValue::dictionary();
-    file.insert("Names", PropertyValue(PropertyArray{PropertyValue("A"), PropertyValue::integer(5),
-                                                     PropertyValue("B")}));
-    ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
-
-    QComboBox popup;
-    EXPECT_EQ(PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, 0, "Names", 1,
-                                                   kHistoryCommand, 0),
-              7);
-    EXPECT_EQ(PopupButtonMaximum(&popup), 7);
-    EXPECT_EQ(texts(popup), QStringList({"Printer Default", "A", "", "B", "STRING NOT FOUND",
-                                         "Printer Default"}));
-    EXPECT_EQ(PopupButtonItemCommand(&popup, 1), kHistoryCommand);
-    EXPECT_EQ(PopupButtonItemCommand(&popup, 3), kHistoryCommand);
-
-    // No history under the key: just the map.
-    EXPECT_EQ(PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, 0, "None", 1,
-                                                   kHistoryCommand, 0),
-              5);
-    EXPECT_EQ(popup.count(), 4);
-}
-
-TEST_F(PopupMenusTest, MenuActionsCarryValueAndCommand)
+TEST_F(PopupMenusTest, MenuActionsAreAppendedWithValueAndCommand)
 {
     QMenu menu;
     menu.addAction("kept");
     EXPECT_EQ(PopulateMenuFromMap(&m_bundle, &menu, kMenuMap, 0, 0), 5);
-    const QList<QAction*> actions = menu.actions();
-    ASSERT_EQ(actions.size(), 5);
-    EXPECT_EQ(actions[0]->text(), "kept"); // appended, not replaced
-    EXPECT_EQ(MenuActionDataOf(actions[0]).ticketValue, 0);
-    EXPECT_EQ(actions[1]->text(), "Printer Default");
-    EXPECT_EQ(MenuActionDataOf(actions[1]).ticketValue, 1);
-    EXPECT_EQ(MenuActionDataOf(actions[1]).commandId, kChooseCommand);
-    EXPECT_TRUE(actions[2]->isSeparator());
-    EXPECT_EQ(MenuActionDataOf(actions[3]).ticketValue, 4);
     EXPECT_EQ(MenuSourceMap(&menu), kMenuMap);
+    QStringList actions;
+    for (const QAction* action : menu.actions()) {
+        const MenuActionData data = MenuActionDataOf(action);
+        actions << (action->isSeparator() ? "-" : action->text()) + ' ' +
+                       QString::number(data.ticketValue) +
+                       (data.commandId == kChooseCommand ? " cho" : "");
+    }
+    EXPECT_EQ(actions, QStringList({"kept 0", "Printer Default 1 cho", "- -5", "STRING NOT FOUND 4",
+                                    "Printer Default " + QString::number(kUnsetValue)}));
 }
+
+} // namespace

@@ -1,3 +1,5 @@
+// The editable combo box's model: fixed items, the input history, limits
+// and the values read from the text.
 #include "ui/XComboBoxModel.h"
 
 #include "settings/Bundle.h"
@@ -8,6 +10,11 @@
 #include <gtest/gtest.h>
 
 using namespace orvan;
+
+inline void PrintTo(const QString& text, std::ostream* os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
 
 namespace {
 
@@ -24,65 +31,53 @@ const QLocale kEnglish(QLocale::English, QLocale::UnitedStates);
 class XComboBoxModelTest : public ::testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(m_dir.isValid());
-        qputenv("XDG_CONFIG_HOME", m_dir.path().toUtf8());
-    }
+    void SetUp() override { qputenv("XDG_CONFIG_HOME", m_dir.path().toUtf8()); }
     void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
 
-    static void writeHistory(const QString& key, PropertyArray entries)
+    static void writeHistory(const QString& key, const PropertyValue& entries)
     {
         PropertyValue file =
             CopyUserPreferences(kInputHistoryFileName).value_or(PropertyValue::dictionary());
-        file.insert(key, PropertyValue(std::move(entries)));
+        file.insert(key, entries);
         ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
     }
     static PropertyValue storedHistory(const QString& key)
     {
-        const PropertyValue file = *CopyUserPreferences(kInputHistoryFileName);
-        const PropertyValue* history = file.find(key);
-        return history ? *history : PropertyValue();
+        return *CopyUserPreferences(kInputHistoryFileName)->find(key);
     }
-
-    _XComboBoxOptions numberBox(std::int32_t minimum, std::int32_t maximum) const
+    XComboBoxModel numberBox(std::int32_t minimum, std::int32_t maximum) const
     {
-        _XComboBoxOptions options;
-        options.kind = XComboBoxKind::Number;
-        options.bundle = &m_bundle;
-        options.map = kCopiesMap;
-        options.historyKey = "Copies";
-        options.minimum = minimum;
-        options.maximum = maximum;
-        return options;
+        return XComboBoxModel({.kind = XComboBoxKind::Number,
+                               .bundle = &m_bundle,
+                               .map = kCopiesMap,
+                               .historyKey = "Copies",
+                               .minimum = minimum,
+                               .maximum = maximum},
+                              kEnglish);
     }
-    _XComboBoxOptions textBox() const
+    XComboBoxModel textBox(const QString& historyKey = "JobName") const
     {
-        _XComboBoxOptions options;
-        options.kind = XComboBoxKind::Text;
-        options.bundle = &m_bundle;
-        options.map = kCopiesMap;
-        options.historyKey = "JobName";
-        options.historyLimit = 3;
-        options.firstLimit = 2;
-        options.secondLimit = 6;
-        options.allowedCharacters =
-            CharacterSetFromString("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
-        return options;
+        return XComboBoxModel({.bundle = &m_bundle,
+                               .map = kCopiesMap,
+                               .historyKey = historyKey,
+                               .historyLimit = 3,
+                               .firstLimit = 2,
+                               .secondLimit = 6,
+                               .allowedCharacters = CharacterSetFromString(
+                                   "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz")},
+                              kEnglish);
     }
 
     QTemporaryDir m_dir;
     Bundle m_bundle{ORVAN_PLUGIN_DIR, "en"};
 };
 
-} // namespace
-
 TEST_F(XComboBoxModelTest, NumberBoxTakesAsManyDigitsAsItsMaximumHas)
 {
-    const std::pair<std::int32_t, int> rows[] = {{0, 9}, {-20, 9}, {9999, 4}, {10000, 5}, {7, 1}};
-    for (const auto& [maximum, digits] : rows) {
-        const XComboBoxModel model(numberBox(0, maximum), kEnglish);
-        EXPECT_EQ(model.inputLimits().secondLimit, digits) << "maximum " << maximum;
+    for (const auto& [maximum, digits] :
+         {std::pair{0, 9}, {-20, 9}, {9999, 4}, {10000, 5}, {7, 1}}) {
+        const XComboBoxModel model = numberBox(0, maximum);
+        EXPECT_EQ(model.inputLimits().secondLimit, digits) << maximum;
         EXPECT_EQ(model.options().secondLimit, digits);
         ASSERT_TRUE(model.inputLimits().allowed);
         EXPECT_TRUE(ContainsOnly("0123456789", *model.inputLimits().allowed));
@@ -91,110 +86,74 @@ TEST_F(XComboBoxModelTest, NumberBoxTakesAsManyDigitsAsItsMaximumHas)
     }
 }
 
-TEST_F(XComboBoxModelTest, FixedItemsStopAtValueZeroAndLeaveOutMissingTexts)
+TEST_F(XComboBoxModelTest, ListsFixedItemsThenTheValidHistoryEntries)
 {
-    ASSERT_TRUE(m_bundle.isValid());
-    const XComboBoxModel model(textBox(), kEnglish);
-    EXPECT_EQ(model.items(), QStringList({"Printer Default", "Use Job Setting"}));
-    EXPECT_EQ(model.fixedItemCount(), 2);
-    EXPECT_EQ(model.ticketValueForText("Use Job Setting"), 7);
-    EXPECT_EQ(model.textForTicketValue(5), "Printer Default");
-    EXPECT_FALSE(model.textForTicketValue(6));
-    EXPECT_FALSE(model.textForTicketValue(9)); // after the stop row
-}
-
-TEST_F(XComboBoxModelTest, OnlyValidHistoryEntriesAreListed)
-{
-    writeHistory("Copies", {PropertyValue("12"), PropertyValue::integer(42), PropertyValue("0"),
-                            PropertyValue("10000"), PropertyValue("abc"), PropertyValue("9999"),
-                            PropertyValue::boolean(true)});
-    writeHistory("JobName",
-                 {PropertyValue("Report"), PropertyValue("R"), PropertyValue("Quarterly"),
-                  PropertyValue("Memo!"), PropertyValue("Memo"), PropertyValue::integer(7)});
-
-    const XComboBoxModel numbers(numberBox(1, 9999), kEnglish);
+    writeHistory("Copies", PropertyArray{"12", PropertyValue::integer(42), "0", "10000", "abc",
+                                         "9999", PropertyValue::boolean(true)});
+    writeHistory("JobName", PropertyArray{"Report", "R", "Quarterly", "Memo!", "Memo",
+                                          PropertyValue::integer(7)});
+    const XComboBoxModel numbers = numberBox(1, 9999);
     EXPECT_EQ(numbers.items(),
               QStringList({"Printer Default", "Use Job Setting", "12", "42", "9999"}));
+    EXPECT_EQ(numbers.fixedItemCount(), 2);
     EXPECT_EQ(numbers.history().size(), 7u); // kept whole, for recording
-
-    const XComboBoxModel texts(textBox(), kEnglish);
-    EXPECT_EQ(texts.items(), QStringList({"Printer Default", "Use Job Setting", "Report", "Memo"}));
+    EXPECT_EQ(textBox().items(),
+              QStringList({"Printer Default", "Use Job Setting", "Report", "Memo"}));
+    EXPECT_EQ(numbers.ticketValueForText("Use Job Setting"), 7);
+    EXPECT_EQ(numbers.textForTicketValue(5), "Printer Default");
+    EXPECT_FALSE(numbers.textForTicketValue(6));
+    EXPECT_FALSE(numbers.textForTicketValue(9)); // after the stop row
 
     // A history that is not an array, or a box without a key, lists nothing.
-    PropertyValue file = *CopyUserPreferences(kInputHistoryFileName);
-    file.insert("Copies", PropertyValue("12"));
-    ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
-    EXPECT_EQ(XComboBoxModel(numberBox(1, 9999), kEnglish).items().size(), 2);
-    _XComboBoxOptions noKey = textBox();
-    noKey.historyKey.clear();
-    EXPECT_EQ(XComboBoxModel(noKey, kEnglish).items().size(), 2);
+    writeHistory("Copies", "12");
+    EXPECT_EQ(numberBox(1, 9999).items().size(), 2);
+    EXPECT_EQ(textBox("").items().size(), 2);
 }
 
-TEST_F(XComboBoxModelTest, NumbersAreClampedToTheRangeWhenRead)
+TEST_F(XComboBoxModelTest, TextsAreValidatedAndReadAsValues)
 {
-    const XComboBoxModel model(numberBox(1, 9999), kEnglish);
-    EXPECT_EQ(model.validatedText("0"), "1");
-    EXPECT_EQ(model.validatedText("12000"), "9999");
-    EXPECT_FALSE(model.validatedText("50"));
-    EXPECT_FALSE(model.validatedText("Printer Default"));
-    EXPECT_FALSE(model.validatedText(""));
-
-    PropertyValue value;
-    EXPECT_EQ(model.copyValue("12000", value), kNoError);
-    EXPECT_EQ(value, PropertyValue::integer(9999));
-    EXPECT_EQ(value.numberType(), NumberType::CFIndex);
-    EXPECT_EQ(model.copyValue("0", value), kNoError);
-    EXPECT_EQ(value, PropertyValue::integer(1));
-    EXPECT_EQ(model.copyValue("Use Job Setting", value), kNoError);
-    EXPECT_EQ(value, PropertyValue::integer(7));
-
+    const XComboBoxModel copies = numberBox(1, 9999);
+    const XComboBoxModel unbounded = numberBox(10, 0); // only the minimum binds
+    const XComboBoxModel name = textBox();
+    // Box, text; the text validation shows (none: the text stays), the value.
+    const std::tuple<const XComboBoxModel*, const char*, std::optional<QString>, PropertyValue>
+        cases[] = {
+            {&copies, "0", "1", PropertyValue::integer(1)},
+            {&copies, "12000", "9999", PropertyValue::integer(9999)},
+            {&copies, "50", std::nullopt, PropertyValue::integer(50)},
+            {&copies, "Use Job Setting", std::nullopt, PropertyValue::integer(7)},
+            {&unbounded, "999999999", std::nullopt, PropertyValue::integer(999999999)},
+            {&unbounded, "3", "10", PropertyValue::integer(10)},
+            {&name, "0", std::nullopt, "0"},
+            {&name, "Report", std::nullopt, "Report"}, // texts are taken as they stand
+        };
+    for (const auto& [model, text, shown, expected] : cases) {
+        EXPECT_EQ(model->validatedText(text), shown) << text;
+        PropertyValue value;
+        EXPECT_EQ(model->copyValue(text, value), kNoError);
+        EXPECT_EQ(value, expected) << text;
+        EXPECT_EQ(value.numberType(), expected.numberType());
+    }
     // An empty box has no value: the result says so and the output is kept.
-    value = PropertyValue("kept");
-    EXPECT_EQ(model.copyValue("", value), kXComboBoxEmpty);
+    PropertyValue value("kept");
+    EXPECT_FALSE(copies.validatedText(""));
+    EXPECT_EQ(copies.copyValue("", value), kXComboBoxEmpty);
     EXPECT_EQ(value, PropertyValue("kept"));
-
-    // Without a maximum only the minimum binds.
-    const XComboBoxModel unbounded(numberBox(10, 0), kEnglish);
-    EXPECT_FALSE(unbounded.validatedText("999999999"));
-    EXPECT_EQ(unbounded.validatedText("3"), "10");
-
-    // Text boxes take the text as it stands.
-    const XComboBoxModel text(textBox(), kEnglish);
-    EXPECT_FALSE(text.validatedText("0"));
-    EXPECT_EQ(text.copyValue("Report", value), kNoError);
-    EXPECT_EQ(value, PropertyValue("Report"));
 }
 
 TEST_F(XComboBoxModelTest, RecordingPutsNewTextsFirstAndKeepsTheLimit)
 {
-    writeHistory("JobName",
-                 {PropertyValue("Report"), PropertyValue("Memo"), PropertyValue("Draft")});
-    writeHistory("Other", {PropertyValue("untouched")});
-
+    writeHistory("JobName", PropertyArray{"Report", "Memo", "Draft"});
+    writeHistory("Other", PropertyArray{"untouched"});
     // A fixed item's text, or a text already listed, adds nothing.
-    {
-        XComboBoxModel model(textBox(), kEnglish);
-        EXPECT_TRUE(model.recordHistory("Printer Default"));
-        EXPECT_TRUE(model.recordHistory("Memo"));
-        EXPECT_TRUE(model.recordHistory(""));
-    }
-    EXPECT_EQ(storedHistory("JobName"),
-              PropertyValue(PropertyArray{PropertyValue("Report"), PropertyValue("Memo"),
-                                          PropertyValue("Draft")}));
-
+    for (const char* text : {"Printer Default", "Memo", ""})
+        EXPECT_TRUE(textBox().recordHistory(text));
+    EXPECT_EQ(storedHistory("JobName"), (PropertyArray{"Report", "Memo", "Draft"}));
     // A new text goes first; the oldest entry falls off at the limit of 3.
-    {
-        XComboBoxModel model(textBox(), kEnglish);
-        EXPECT_TRUE(model.recordHistory("Letter"));
-    }
-    EXPECT_EQ(storedHistory("JobName"),
-              PropertyValue(PropertyArray{PropertyValue("Letter"), PropertyValue("Report"),
-                                          PropertyValue("Memo")}));
-    EXPECT_EQ(storedHistory("Other"), PropertyValue(PropertyArray{PropertyValue("untouched")}));
-
-    // A box without a history key writes nothing.
-    _XComboBoxOptions noKey = textBox();
-    noKey.historyKey.clear();
-    XComboBoxModel model(noKey, kEnglish);
-    EXPECT_FALSE(model.recordHistory("Anything"));
+    EXPECT_TRUE(textBox().recordHistory("Letter"));
+    EXPECT_EQ(storedHistory("JobName"), (PropertyArray{"Letter", "Report", "Memo"}));
+    EXPECT_EQ(storedHistory("Other"), PropertyArray{"untouched"});
+    EXPECT_FALSE(textBox("").recordHistory("Anything")); // no history key: nothing written
 }
+
+} // namespace
