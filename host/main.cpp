@@ -141,7 +141,9 @@ int main(int argc, char** argv)
         return usageError(why);
     const PrinterEntry& printer = printers[static_cast<std::size_t>(*chosen)];
     TemporaryFile fetchedPpd; // a queue's PPD, fetched for this run
-    if (line->ppdFile.isEmpty()) {
+    // The dialog attaches its printer itself; only the headless run needs the
+    // PPD located here.
+    if (headless && line->ppdFile.isEmpty()) {
         QString ppdWhy;
         const auto ppd = PpdPathForPrinter(printer, plugin->folder(), &ppdWhy);
         if (ppd && !printer.queueName.isEmpty())
