@@ -11,12 +11,6 @@ namespace orvan {
 
 namespace {
 
-void StoreChoice(Ticket& ticket, const QString& keyword, std::int32_t value)
-{
-    if (const char* choice = PPDChoiceForTicketValue(keyword, value))
-        PPDSetCurrentChoice(&ticket, keyword, QString::fromLatin1(choice));
-}
-
 void ShowFirstItem(AdvancedModel::Popup& popup)
 {
     popup.selectedItem = popup.menu.isEmpty() ? 0 : 1;
@@ -127,9 +121,9 @@ Status AdvancedModel::syncToTicket(Ticket& ticket) const
 {
     const Status status = ticket.setItem(kPanelClient, kBookletLayoutOrderKey,
                                          PropertyValue::integer(m_bookletImageOrder));
-    StoreChoice(ticket, kOutputOptionKeyword, m_outputOption);
-    StoreChoice(ticket, kBannerKeyword, m_bannerSheet);
-    StoreChoice(ticket, kRequestOffsetKeyword, m_requestOffset);
+    PPDSetCurrentChoiceForTicketValue(&ticket, kOutputOptionKeyword, m_outputOption);
+    PPDSetCurrentChoiceForTicketValue(&ticket, kBannerKeyword, m_bannerSheet);
+    PPDSetCurrentChoiceForTicketValue(&ticket, kRequestOffsetKeyword, m_requestOffset);
     return status;
 }
 

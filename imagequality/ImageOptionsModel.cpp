@@ -15,12 +15,6 @@ constexpr std::int32_t kResolution1200x600 = 3;
 constexpr std::int32_t kResolution1200 = 4;
 constexpr std::int32_t kResolution1800 = 7;
 
-void StoreChoice(Ticket& ticket, const QString& keyword, std::int32_t value)
-{
-    if (const char* choice = PPDChoiceForTicketValue(keyword, value))
-        PPDSetCurrentChoice(&ticket, keyword, QString::fromLatin1(choice));
-}
-
 } // namespace
 
 ImageOptionsModel::ImageOptionsModel()
@@ -56,12 +50,12 @@ Status ImageOptionsModel::sync(PrintSession* session, bool direction, InvertImag
 
 void ImageOptionsModel::syncResolutionToTicket(Ticket& ticket) const
 {
-    StoreChoice(ticket, kResolutionKeyword, m_resolution);
+    PPDSetCurrentChoiceForTicketValue(&ticket, kResolutionKeyword, m_resolution);
 }
 
 void ImageOptionsModel::syncTonerSaverToTicket(Ticket& ticket) const
 {
-    StoreChoice(ticket, kTonerSaverKeyword, m_tonerSaver);
+    PPDSetCurrentChoiceForTicketValue(&ticket, kTonerSaverKeyword, m_tonerSaver);
 }
 
 void ImageOptionsModel::syncResolutionToUI(const Ticket& ticket)

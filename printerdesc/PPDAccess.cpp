@@ -260,4 +260,10 @@ void GetMediaLimits(double* minimumWidth, double* minimumHeight, double* maximum
         *maximumHeight = limits.maximumHeight;
 }
 
+void PPDSetCurrentChoiceForTicketValue(Ticket* ticket, const QString& mainKeyword, std::int32_t value)
+{
+    if (const char* choice = PPDChoiceForTicketValue(mainKeyword, value))
+        PPDSetCurrentChoice(ticket, mainKeyword, QString::fromLatin1(choice));
+}
+
 } // namespace orvan

@@ -43,6 +43,10 @@ std::int32_t PPDTicketValueForChoice(const QString& mainKeyword, const QString& 
 // The choice keyword of the first row of the keyword's choice map carrying
 // the value; null when nothing matches.
 const char* PPDChoiceForTicketValue(const QString& mainKeyword, std::int32_t value);
+// Stores the choice that carries the value (PPDChoiceForTicketValue) under the
+// main keyword in the ticket's PPD dictionary; a value without a choice
+// stores nothing and leaves the ticket's choice as it was.
+void PPDSetCurrentChoiceForTicketValue(Ticket* ticket, const QString& mainKeyword, std::int32_t value);
 // The ticket's current choice for the keyword, or when it has none the PPD's
 // default, translated by PPDTicketValueForChoice (possibly -1) into *value.
 // With neither, *value is left untouched and the result is false.
