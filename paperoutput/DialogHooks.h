@@ -1,6 +1,6 @@
 // Dialogs of other subsystems that the Paper/Output panel opens: the covers
 // dialog of the special pages and the LAN fax setup. The plug-in sets them
-// when it starts (paperoutput/plugin/PanelEntries.cpp); while one is not set
+// when it loads (the subsystem that provides a dialog sets its hook); while one is not set
 // the panel's button for it is disabled and the OK guard's fax setup does
 // nothing.
 #pragma once
@@ -32,11 +32,7 @@ struct PaperOutputDialogHooks
     LANFaxSetupFunction runLANFaxSetup = nullptr;
 };
 
-// The process-wide hooks.
-inline PaperOutputDialogHooks& PaperOutputHooks()
-{
-    static PaperOutputDialogHooks hooks;
-    return hooks;
-}
+// The process-wide hooks (one instance, in the widgets library).
+PaperOutputDialogHooks& PaperOutputHooks();
 
 } // namespace orvan

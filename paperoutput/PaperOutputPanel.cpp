@@ -16,6 +16,7 @@
 
 #include <QComboBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -51,6 +52,12 @@ QLabel* IconLabel(QWidget* parent, const char* objectName)
 
 } // namespace
 
+PaperOutputDialogHooks& PaperOutputHooks()
+{
+    static PaperOutputDialogHooks hooks;
+    return hooks;
+}
+
 PaperOutputView::PaperOutputView(PaperOutputModel& model, const Bundle* bundle, QWidget* parent)
     : QWidget(parent), m_model(model), m_bundle(bundle), m_setup(new QPushButton(this)),
       m_covers(new QPushButton(this)), m_separators(new QPushButton(this)),
@@ -60,45 +67,44 @@ PaperOutputView::PaperOutputView(PaperOutputModel& model, const Bundle* bundle, 
       m_finishingIcon(IconLabel(this, "FinishingIcon"))
 {
     setObjectName(QStringLiteral("PaperOutput"));
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(10);
-    grid->setVerticalSpacing(8);
-    grid->setColumnStretch(3, 1);
-    int row = 0;
-    const auto addPopup = [&](std::int32_t controlID, const char* objectName,
-                              const QString& labelKey) {
+    const auto makePopup = [this](std::int32_t controlID, const char* objectName) {
         auto* popup = new QComboBox(this);
         popup->setObjectName(QLatin1String(objectName));
-        popup->setMinimumWidth(220);
+        popup->setMinimumWidth(240);
         popup->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-        auto* label = new QLabel(this);
-        SetLocalizedStaticText(bundle, labelKey, label);
-        label->setBuddy(popup);
-        grid->addWidget(label, row, 1, Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(popup, row, 2, Qt::AlignLeft);
         m_popups[controlID] = popup;
-        m_popupLabels[controlID] = label;
         connect(popup, &QComboBox::activated, this,
                 [this, controlID](int index) { controlHit(controlID, index + 1); });
-        ++row;
+        return popup;
+    };
+    const auto label = [this, bundle](const QString& key, QWidget* buddy) {
+        auto* text = new QLabel(this);
+        SetLocalizedStaticText(bundle, key, text);
+        text->setBuddy(buddy);
+        return text;
+    };
+    const auto group = [this, bundle](const QString& labelKey) {
+        return new QGroupBox(SummaryTitleFromLabel(bundle, labelKey), this);
     };
 
-    grid->addWidget(m_jobTypeIcon, row, 0, 2, 1, Qt::AlignTop);
-    addPopup(kJobTypeControlID, "JobTypePopup", kJobTypeLabelKey);
+    // Job type, its setup and picture.
+    QGroupBox* jobBox = group(kJobTypeLabelKey);
+    auto* jobRow = new QHBoxLayout(jobBox);
+    jobRow->addWidget(makePopup(kJobTypeControlID, "JobTypePopup"));
     m_setup->setObjectName(QStringLiteral("JobTypeSetupButton"));
     SetLocalizedControlTitle(bundle, kSetupButtonKey, m_setup);
     m_setup->setAutoDefault(false);
-    grid->addWidget(m_setup, row - 1, 3, Qt::AlignLeft);
     connect(m_setup, &QPushButton::clicked, this,
             [this] { controlHit(kJobTypeSetupControlID, 0); });
-    ++row;
+    jobRow->addWidget(m_setup);
+    jobRow->addStretch(1);
+    jobRow->addWidget(m_jobTypeIcon);
 
-    auto* paperLabel = new QLabel(this);
-    SetLocalizedStaticText(bundle, kPaperSummaryLabelKey, paperLabel);
-    grid->addWidget(paperLabel, row, 1, Qt::AlignRight | Qt::AlignTop);
-    grid->addWidget(m_stock, row, 2, 1, 2);
-    ++row;
-    auto* specialPages = new QHBoxLayout;
+    // The job's stock, with the special sheets beside it.
+    QGroupBox* paperBox = group(kPaperSummaryLabelKey);
+    auto* paperRow = new QHBoxLayout(paperBox);
+    paperRow->addWidget(m_stock, 1);
+    auto* sheets = new QVBoxLayout;
     for (auto [button, name, key, code] :
          {std::tuple{m_covers, "CoversButton", &kCoversButtonKey, kCoversCommand},
           std::tuple{m_separators, "SeparatorsButton", &kSeparatorsButtonKey,
@@ -106,39 +112,59 @@ PaperOutputView::PaperOutputView(PaperOutputModel& model, const Bundle* bundle, 
         button->setObjectName(QLatin1String(name));
         SetLocalizedControlTitle(bundle, *key, button);
         button->setAutoDefault(false);
-        specialPages->addWidget(button);
+        sheets->addWidget(button);
         const std::uint32_t commandCode = code;
         connect(button, &QPushButton::clicked, this, [this, commandCode] { command(commandCode); });
     }
-    specialPages->addStretch(1);
-    grid->addLayout(specialPages, row++, 2, 1, 2);
+    sheets->addStretch(1);
+    paperRow->addLayout(sheets);
 
-    grid->addWidget(m_twoSidedIcon, row, 0, Qt::AlignTop);
-    addPopup(kTwoSidedControlID, "TwoSidedPopup", kTwoSidedLabelKey);
-
+    // Two-sided printing and office finishing, each with its picture.
+    QGroupBox* finishingBox = group(kFinishingLabelKey);
+    auto* finishing = new QGridLayout(finishingBox);
+    finishing->setColumnStretch(2, 1);
+    int row = 0;
+    QComboBox* twoSided = makePopup(kTwoSidedControlID, "TwoSidedPopup");
+    finishing->addWidget(label(kTwoSidedLabelKey, twoSided), row, 0, Qt::AlignRight);
+    finishing->addWidget(twoSided, row, 1);
+    finishing->addWidget(m_twoSidedIcon, row++, 3, Qt::AlignRight);
     const int finishingTop = row;
-    for (const PopupRow& finishing : kFinishingRows)
-        if (!model.popup(finishing.controlID).menu.isEmpty())
-            addPopup(finishing.controlID, finishing.objectName, *finishing.labelKey);
-    auto* finishingLabel = new QLabel(this);
-    SetLocalizedStaticText(bundle, kFinishingLabelKey, finishingLabel);
+    for (const PopupRow& finishingRow : kFinishingRows) {
+        if (model.popup(finishingRow.controlID).menu.isEmpty())
+            continue;
+        QComboBox* popup = makePopup(finishingRow.controlID, finishingRow.objectName);
+        finishing->addWidget(label(*finishingRow.labelKey, popup), row, 0, Qt::AlignRight);
+        finishing->addWidget(popup, row++, 1);
+    }
     m_finishingSummary->setObjectName(QStringLiteral("FinishingSummary"));
     m_finishingSummary->setReadOnly(true);
     m_finishingSummary->setFrameShape(QFrame::NoFrame);
     m_finishingSummary->viewport()->setAutoFillBackground(false);
-    m_finishingSummary->setFixedHeight(4 * m_finishingSummary->fontMetrics().lineSpacing());
-    grid->addWidget(finishingLabel, row, 1, Qt::AlignRight | Qt::AlignTop);
-    grid->addWidget(m_finishingSummary, row, 2, 1, 2);
-    ++row;
-    grid->addWidget(m_finishingIcon, finishingTop, 0, row - finishingTop, 1, Qt::AlignTop);
+    m_finishingSummary->setFixedHeight(3 * m_finishingSummary->fontMetrics().lineSpacing() + 4);
+    finishing->addWidget(m_finishingSummary, row++, 1, 1, 2);
+    finishing->addWidget(m_finishingIcon, finishingTop, 3, row - finishingTop, 1,
+                         Qt::AlignRight | Qt::AlignTop);
 
-    addPopup(kOutputDestinationControlID, "OutputDestinationPopup", kOutputDestinationLabelKey);
+    // Where the job goes.
+    auto* output = new QHBoxLayout;
+    QComboBox* destination = makePopup(kOutputDestinationControlID, "OutputDestinationPopup");
+    output->addWidget(label(kOutputDestinationLabelKey, destination));
+    output->addWidget(destination);
+    output->addStretch(1);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(grid);
+    layout->setSpacing(8);
+    layout->addWidget(jobBox);
+    layout->addWidget(paperBox);
+    layout->addWidget(finishingBox);
+    layout->addLayout(output);
     layout->addStretch(1);
 
+    // The stock summary reads as text beside the button, like the finishing one.
+    m_stock->summaryView()->viewport()->setAutoFillBackground(false);
+    m_stock->summaryView()->setFixedHeight(4 * m_stock->summaryView()->fontMetrics().lineSpacing() +
+                                           4);
     m_stock->setStock(&m_model.record().jobLevelStock);
     connect(m_stock, &StockButton::stockChanged, this, [this] {
         m_model.refresh();

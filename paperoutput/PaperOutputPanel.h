@@ -50,7 +50,6 @@ private:
     PaperOutputModel& m_model;
     const Bundle* m_bundle;
     std::map<std::int32_t, QComboBox*> m_popups;
-    std::map<std::int32_t, QLabel*> m_popupLabels;
     QPushButton* m_setup;
     QPushButton* m_covers;
     QPushButton* m_separators;

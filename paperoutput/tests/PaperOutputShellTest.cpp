@@ -66,7 +66,7 @@ TEST(PaperOutputShell, FirstTabDrivesTheOkGuardAndShowsFinishing)
         EXPECT_EQ(ShellOkGuard(CurrentShellContext()), row.decision) << row.jobType;
     }
     ASSERT_EQ(alerts.size(), 1u);
-    EXPECT_EQ(alerts.front().title, "Passcode Needed");
+    EXPECT_EQ(alerts.front().title, "Secure Print needs a passcode");
     SetAlertPresenter(previous);
     // The fax setup made the fax items; they travel with the ticket.
     ASSERT_EQ(plugin->sync(&session, false), kNoError);
