@@ -27,7 +27,8 @@ bool RunModalDelayedPrintSetup(const Bundle* bundle, std::int64_t& time, QWidget
 // save or save and print, and an optional passcode. True on OK.
 bool RunModalSavedJobDialog(const Bundle* bundle, PaperOutputRecord& record, QWidget* parent);
 // Booklet finishing (fold, fold and staple), layout, outlines, a new sheet
-// size from the stock's size menu, gutter and creep (tenths). True on OK.
+// size from the stock's size menu, gutter (points) and creep (tenths of a
+// point). True on OK.
 bool RunModalBookletCreationDialog(const Bundle* bundle, BookletCreationParams& params,
                                    QWidget* parent);
 

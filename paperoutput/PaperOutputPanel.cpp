@@ -18,6 +18,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPixmapCache>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -187,20 +188,28 @@ void PaperOutputView::reloadMenus()
         const MenuModel& menu = m_model.popup(controlID).menu;
         FillPopupButton(popup, menu, menu.count());
     }
-    m_stock->rebuildMenu();
     showModel();
 }
 
 void PaperOutputView::showIcon(QLabel* label, const QString& imageName)
 {
+    if (label->toolTip() == imageName && !imageName.isEmpty())
+        return; // already shown
+    const qreal ratio = devicePixelRatio();
     const QString path = m_bundle && !imageName.isEmpty()
                              ? m_bundle->resourcePath(PaperOutputImagePath(imageName))
                              : QString();
-    QPixmap picture(path);
-    if (!picture.isNull())
-        picture = picture.scaled(kIconSize * devicePixelRatio(), kIconSize * devicePixelRatio(),
-                                 Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(devicePixelRatio());
+    const QString cacheKey = QStringLiteral("orvan-paper-output:%1@%2").arg(path).arg(ratio);
+    QPixmap picture;
+    if (!path.isEmpty() && !QPixmapCache::find(cacheKey, &picture)) {
+        picture = QPixmap(path);
+        if (!picture.isNull()) {
+            picture = picture.scaled(qRound(kIconSize * ratio), qRound(kIconSize * ratio),
+                                     Qt::KeepAspectRatio, Qt::SmoothTransformation);
+            picture.setDevicePixelRatio(ratio);
+            QPixmapCache::insert(cacheKey, picture);
+        }
+    }
     label->setPixmap(picture);
     label->setToolTip(imageName);
 }

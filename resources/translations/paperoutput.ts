@@ -257,11 +257,11 @@
     </message>
     <message>
         <source>Gutter Label</source>
-        <translation>Gutter:</translation>
+        <translation>Gutter (points):</translation>
     </message>
     <message>
         <source>Creep Label</source>
-        <translation>Creep (tenths):</translation>
+        <translation>Creep (points):</translation>
     </message>
     <message>
         <source>Catch Tray</source>
