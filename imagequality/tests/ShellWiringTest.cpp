@@ -31,7 +31,7 @@ TEST(ShellWiring, TabsNavigationSyncAndSummary)
     SetPpdChoice(session, "JCLBanner", "True");
     QWidget window;
     ASSERT_EQ(plugin->prolog(), kNoError);
-    ASSERT_EQ(plugin->initialize(&window, &session), kNoError);
+    ASSERT_EQ(plugin->initialize({&window}, &session), kNoError); // the shell's pane
     ASSERT_EQ(plugin->sync(&session, true), kNoError);
 
     // The two panels stand side by side among the shell's tabs.
