@@ -1,9 +1,9 @@
 #include "paperoutput/JobTypeSetups.h"
 
-#include "imagequality/PanelText.h"
 #include "paperoutput/JobTypeSetupRules.h"
 #include "platform/Alerts.h"
 #include "settings/Bundle.h"
+#include "shell/PanelText.h"
 #include "stock/StockMenus.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/PopupMenus.h"

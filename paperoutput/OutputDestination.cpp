@@ -39,7 +39,7 @@ void PopulateOutputDestination(const Bundle* bundle, MenuModel& menu)
     const auto addKey = [&](const char* key, std::int32_t value) {
         add(Text(bundle, QString::fromLatin1(key)), value);
     };
-    addKey("Printer Default", kUnsetValue);
+    addKey("Printer Default", kUnset);
     addKey("Auto", 1);
     if (getInstalledFeature("AutoSwitchTrayKey"))
         add(FeatureName(bundle, "AutoSwitchTrayKey"), FeatureValue("AutoSwitchTrayKey"));

@@ -1,6 +1,5 @@
 #include "paperoutput/PaperOutputModel.h"
 
-#include "imagequality/PanelText.h"
 #include "paperoutput/OutputDestination.h"
 #include "paperoutput/Separators.h"
 #include "printerdesc/PPDAccess.h"
@@ -10,6 +9,8 @@
 #include "settings/SettingMapAccess.h"
 #include "settings/SettingMaps.h"
 #include "settings/Ticket.h"
+#include "shell/PanelSync.h"
+#include "shell/PanelText.h"
 #include "specialpages/SpecialPagesTicket.h"
 #include "stock/StockSummary.h"
 
@@ -62,13 +63,9 @@ void PaperOutputModel::open(Ticket& printSettings)
 
 Status PaperOutputModel::sync(PrintSession* session, bool direction)
 {
-    if (!session)
-        return kSyncMissingContext;
     Ticket* printSettings = nullptr;
-    if (const Status error = GetTicketFromSession(session, kPrintSettingsTicketKey, &printSettings))
+    if (const Status error = GetPrintSettingsForSync(session, &printSettings))
         return error;
-    if (!printSettings)
-        return kBadParameter;
     if (!direction)
         return syncToTicket(*printSettings);
     Ticket* pageFormat = nullptr;

@@ -26,7 +26,6 @@ class PrintSession;
 class Ticket;
 
 inline const QString kPaperOutputTitleKey = QStringLiteral("PaperOutput");
-inline const QString kPaperOutputKind = QStringLiteral("com.orvan.print.pde.orvanfeatureskind");
 
 // Control identifiers (signature 'QPDE'); only 102 to 126 belong to the panel.
 inline constexpr std::uint32_t kPaperOutputSignature = FourCharCode("QPDE");

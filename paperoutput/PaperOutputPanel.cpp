@@ -1,7 +1,5 @@
 #include "paperoutput/PaperOutputPanel.h"
 
-#include "imagequality/PanelPane.h"
-#include "imagequality/PanelText.h"
 #include "paperoutput/DialogHooks.h"
 #include "paperoutput/JobTypeSetups.h"
 #include "paperoutput/PaperOutputIcons.h"
@@ -9,6 +7,8 @@
 #include "printerdesc/PPDAccess.h"
 #include "settings/Bundle.h"
 #include "settings/PrintSession.h"
+#include "shell/PanelPane.h"
+#include "shell/PanelText.h"
 #include "stock/StockButton.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/PopupMenus.h"
@@ -290,60 +290,28 @@ void PaperOutputView::run(PaperOutputAction action)
 
 PaperOutputPanel::PaperOutputPanel() : PaperOutputPanel(ShellBundle()) {}
 
-PaperOutputPanel::PaperOutputPanel(const Bundle* bundle) : m_bundle(bundle)
+PaperOutputPanel::PaperOutputPanel(const Bundle* bundle) : ModelPanel(bundle)
 {
-    m_model.setFaxSetupRunner([this](PropertyValue& options, PropertyValue& recipients) {
+    model().setFaxSetupRunner([this](PropertyValue& options, PropertyValue& recipients) {
         const LANFaxSetupFunction setup = PaperOutputHooks().runLANFaxSetup;
-        return setup && setup(m_bundle, options, recipients, m_view);
+        return setup && setup(this->bundle(), options, recipients, view());
     });
-}
-
-PaperOutputPanel::~PaperOutputPanel()
-{
-    delete m_view;
 }
 
 PanelBase::Description PaperOutputPanel::describe() const
 {
-    Description description;
-    description.kind = kPaperOutputKind;
-    description.title = PanelText(m_bundle, kPaperOutputTitleKey);
-    return description;
+    return describeAs(kPaperOutputTitleKey);
 }
 
-Status PaperOutputPanel::initialize(QWidget* parent, PrintSession* session)
+Status PaperOutputPanel::loadModel(PrintSession* session)
 {
     if (!session)
         return kMissingContext;
-    m_model.load(m_bundle, PPDGetCurrent());
+    model().load(bundle(), PPDGetCurrent());
     Ticket* printSettings = nullptr;
     if (GetTicketFromSession(session, kPrintSettingsTicketKey, &printSettings) == kNoError &&
         printSettings)
-        m_model.open(*printSettings);
-    if (parent)
-        m_view = new PaperOutputView(m_model, m_bundle, parent);
-    return kNoError;
-}
-
-Status PaperOutputPanel::sync(PrintSession* session, bool direction)
-{
-    const Status status = m_model.sync(session, direction);
-    if (direction && m_view)
-        m_view->showModel();
-    return status;
-}
-
-Status PaperOutputPanel::summaryText(PropertyValue* titles, PropertyValue* values)
-{
-    if (!titles || !values)
-        return kBadParameter;
-    m_model.appendSummary(m_bundle, titles, values);
-    return kNoError;
-}
-
-Status PaperOutputPanel::terminate(Status)
-{
-    delete m_view;
+        model().open(*printSettings);
     return kNoError;
 }
 

@@ -5,9 +5,8 @@
 #pragma once
 
 #include "paperoutput/PaperOutputModel.h"
-#include "shell/PanelBase.h"
+#include "shell/ModelPanel.h"
 
-#include <QPointer>
 #include <QWidget>
 
 #include <map>
@@ -60,32 +59,22 @@ private:
     QLabel* m_finishingIcon;
 };
 
-class PaperOutputPanel : public PanelBase
+class PaperOutputPanel : public ModelPanel<PaperOutputModel, PaperOutputView>
 {
 public:
     // The bundle is the shell's (the plug-in's own) unless given.
     PaperOutputPanel();
     explicit PaperOutputPanel(const Bundle* bundle);
-    ~PaperOutputPanel() override;
 
     // Title "PaperOutput".
     Description describe() const override;
+    PrintGuardSource* printGuardSource() override { return &model(); }
+
+protected:
     // Fills the model from the current PPD and installed features, reads the
-    // job name and turns booklet layout off in the ticket; builds the view
-    // when there is a parent. kMissingContext without a session.
-    Status initialize(QWidget* parent, PrintSession* session) override;
-    Status sync(PrintSession* session, bool direction) override;
-    Status summaryText(PropertyValue* titles, PropertyValue* values) override;
-    Status terminate(Status status) override;
-    PrintGuardSource* printGuardSource() override { return &m_model; }
-
-    PaperOutputModel& model() { return m_model; }
-    PaperOutputView* view() const { return m_view; }
-
-private:
-    const Bundle* m_bundle;
-    PaperOutputModel m_model;
-    QPointer<PaperOutputView> m_view;
+    // job name and turns booklet layout off in the ticket. kMissingContext
+    // without a session.
+    Status loadModel(PrintSession* session) override;
 };
 
 } // namespace orvan

@@ -170,7 +170,7 @@ struct PaperOutputRecord
     QString finishingCustom = QStringLiteral("");
 
     std::int32_t twoSided = kSimplex;
-    std::int32_t outputDestination = INT32_MIN; // "Printer Default"
+    std::int32_t outputDestination = kUnset; // "Printer Default"
 
     // Booklet.
     std::int32_t bookletLayout = kBookletLayoutOff;

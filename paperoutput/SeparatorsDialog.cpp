@@ -1,8 +1,8 @@
 #include "paperoutput/SeparatorsDialog.h"
 
-#include "imagequality/PanelText.h"
 #include "paperoutput/PaperOutputRecord.h"
 #include "settings/SettingMaps.h"
+#include "shell/PanelText.h"
 #include "stock/StockButton.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/PopupMenus.h"

@@ -42,7 +42,7 @@ TEST(PaperOutputShell, FirstTabDrivesTheOkGuardAndShowsFinishing)
         SetAlertPresenter([&alerts](const Alert& alert) { alerts.push_back(alert); });
     QWidget window;
     ASSERT_EQ(plugin->prolog(), kNoError);
-    ASSERT_EQ(plugin->initialize(&window, &session), kNoError);
+    ASSERT_EQ(plugin->initialize({&window}, &session), kNoError); // the shell's pane
     ASSERT_EQ(plugin->sync(&session, true), kNoError);
 
     auto* tabs = window.findChild<QTabBar*>("ShellTabs");
