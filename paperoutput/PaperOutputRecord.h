@@ -152,7 +152,7 @@ struct PaperOutputRecord
     long saveDisposition = kSaveOnly;
     long jobTypeMediaType = 0;
     QString securePrintPasscode;
-    std::int64_t delayedPrintTime = 0; // seconds since 1904-01-01 00:00 local time
+    std::int64_t delayedPrintTime = 0; // long date-time seconds (LongDateClock.h)
 
     // Office finishing.
     long finishingOption = kFinishingOptionNone;
