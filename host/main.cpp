@@ -93,7 +93,9 @@ int dumpTicket(PluginHost& plugin, PrintSession& session, const QString& saveTo)
     plugin.close();
     plugin.terminate(kNoError);
     QString why;
-    auto xml = writePropertyList(sessionToPropertyList(session), &why);
+    PropertyValue tickets = sessionToPropertyList(session);
+    HideTicketSecrets(tickets); // the passcode stays in the saved ticket only
+    auto xml = writePropertyList(tickets, &why);
     if (!xml)
         return runtimeError(QStringLiteral("cannot write the tickets: %1").arg(why));
     const qsizetype root = xml->indexOf("<plist");

@@ -46,7 +46,8 @@ QString ApplicationSupportFolder()
     return QDir().mkpath(folder) ? folder : QString();
 }
 
-bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode, QString* errorText)
+bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode, QString* errorText,
+                           QFileDevice::Permissions permissions)
 {
     QString why;
     const std::optional<QByteArray> xml = writePropertyList(value, &why);
@@ -58,7 +59,8 @@ bool WritePropertyListFile(const QString& path, const PropertyValue& value, int*
         return false;
     }
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(*xml) == xml->size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && (!permissions || file.setPermissions(permissions)) &&
+        file.write(*xml) == xml->size() && file.commit())
         return true;
     if (errorCode)
         *errorCode = file.error() == QFileDevice::NoError ? QFileDevice::WriteError : file.error();

@@ -7,6 +7,7 @@
 
 #include "settings/PropertyValue.h"
 
+#include <QFileDevice>
 #include <QString>
 
 #include <optional>
@@ -49,8 +50,9 @@ bool WriteXMLData(const QString& fileName, const PropertyValue& value);
 
 // Writes a property list to any path atomically; the error code of the
 // failure (a QFileDevice::FileError, or -50 when the value cannot be written
-// as a property list) goes to errorCode.
+// as a property list) goes to errorCode. With permissions, the file gets
+// them before its content is in place.
 bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode = nullptr,
-                           QString* errorText = nullptr);
+                           QString* errorText = nullptr, QFileDevice::Permissions permissions = {});
 
 } // namespace orvan

@@ -151,7 +151,8 @@ bool saveTicketFile(const QString& path, const PrintSession& session, QString* e
 {
     int code = 0;
     QString why;
-    if (WritePropertyListFile(path, sessionToPropertyList(session), &code, &why))
+    if (WritePropertyListFile(path, sessionToPropertyList(session), &code, &why,
+                              QFileDevice::ReadOwner | QFileDevice::WriteOwner))
         return true;
     return fail(error, QStringLiteral("cannot write %1: %2").arg(path, why));
 }
@@ -169,6 +170,21 @@ bool loadTicketFile(const QString& path, PrintSession& session, QString* error)
     if (!sessionFromPropertyList(*value, session, &why))
         return fail(error, QStringLiteral("%1: %2").arg(path, why));
     return true;
+}
+
+void HideTicketSecrets(PropertyValue& value)
+{
+    if (value.isArray()) {
+        for (PropertyValue& element : value.asArray())
+            HideTicketSecrets(element);
+    } else if (value.isDictionary()) {
+        for (auto& [key, element] : value.asDictionary()) {
+            if (key == QLatin1String("SecurePrintPassword"))
+                element = PropertyValue(kHiddenSecret);
+            else
+                HideTicketSecrets(element);
+        }
+    }
 }
 
 } // namespace orvan

@@ -32,8 +32,15 @@ PropertyValue sessionToPropertyList(const PrintSession& session);
 // Replaces the session's tickets (and printer, when the file names one).
 bool sessionFromPropertyList(const PropertyValue& value, PrintSession& session, QString* error = nullptr);
 
-// Whole files; writing replaces the file atomically.
+// Whole files; writing replaces the file atomically, readable by its owner
+// only (a ticket may hold a passcode).
 bool saveTicketFile(const QString& path, const PrintSession& session, QString* error = nullptr);
 bool loadTicketFile(const QString& path, PrintSession& session, QString* error = nullptr);
+
+// Replaces, anywhere in a property list, the value of every item that holds a
+// passcode ("SecurePrintPassword") by kHiddenSecret: for tickets that are
+// printed or logged rather than sent with the job.
+inline const QString kHiddenSecret = QStringLiteral("(hidden)");
+void HideTicketSecrets(PropertyValue& value);
 
 } // namespace orvan
