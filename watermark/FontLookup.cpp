@@ -2,6 +2,9 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <QMap>
+
+#include <algorithm>
 #include <memory>
 #include <string_view>
 
@@ -105,7 +108,40 @@ std::optional<FontLocation> findFamily(const QByteArray& family, int weight, int
     return std::nullopt;
 }
 
+QString stringOf(const FcPattern* font, const char* object)
+{
+    FcChar8* text = nullptr;
+    if (FcPatternGetString(font, object, 0, &text) != FcResultMatch || !text)
+        return {};
+    return QString::fromUtf8(reinterpret_cast<const char*>(text));
+}
+
 } // namespace
+
+std::vector<InstalledFont> InstalledFonts()
+{
+    std::vector<InstalledFont> fonts;
+    if (!FcInit())
+        return fonts;
+    const FcPatternOwner pattern(FcPatternCreate());
+    const FcObjectSetOwner objects(
+        FcObjectSetBuild(FC_POSTSCRIPT_NAME, FC_FAMILY, FC_STYLE, FC_SCALABLE, nullptr));
+    if (!pattern || !objects || !FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue))
+        return fonts;
+    const FcFontSetOwner set(FcFontList(nullptr, pattern.get(), objects.get()));
+    if (!set)
+        return fonts;
+    QMap<QString, InstalledFont> byName; // folds names that differ only in case
+    for (int i = 0; i < set->nfont; ++i) {
+        InstalledFont font{stringOf(set->fonts[i], FC_POSTSCRIPT_NAME),
+                           stringOf(set->fonts[i], FC_FAMILY), stringOf(set->fonts[i], FC_STYLE)};
+        if (!font.postScriptName.isEmpty())
+            byName.insert(font.postScriptName.toCaseFolded(), font);
+    }
+    for (const InstalledFont& font : byName)
+        fonts.push_back(font);
+    return fonts;
+}
 
 std::optional<FontLocation> FindFontByPostScriptName(const QString& postScriptName)
 {

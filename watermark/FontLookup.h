@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace orvan {
 
@@ -18,5 +19,17 @@ struct FontLocation
 // the same style (ArialMT draws with Liberation Sans); else the family of
 // that name in its regular style. None when no step finds an installed font.
 std::optional<FontLocation> FindFontByPostScriptName(const QString& postScriptName);
+
+// An installed font as a font dialog lists it.
+struct InstalledFont
+{
+    QString postScriptName;
+    QString family;
+    QString style;
+};
+
+// Every installed scalable font that has a PostScript name, each name once,
+// sorted by PostScript name (case-insensitive).
+std::vector<InstalledFont> InstalledFonts();
 
 } // namespace orvan

@@ -1,10 +1,13 @@
 #include "watermark/tests/WatermarkTestSupport.h"
 
 #include "watermark/DrawWatermark.h"
+#include "watermark/FontLookup.h"
 #include "watermark/MemoryDocument.h"
 #include "watermark/TextLayout.h"
 #include "watermark/WatermarkDocument.h"
 #include "watermark/WatermarkPreview.h"
+
+#include <QFileInfo>
 
 using namespace orvan;
 using namespace orvan::test;
@@ -42,6 +45,31 @@ _WatermarkData pictureRecord(const QString& path, int scale)
 }
 
 } // namespace
+
+TEST(FontLookup, ExactNameThenMetricFamilyThenFamily)
+{
+    const std::pair<const char*, const char*> rows[] = {
+        {"DejaVuSans-Bold", "DejaVuSans-Bold.ttf"},
+        {"ArialMT", "LiberationSans-Regular.ttf"},
+        {"Arial-BoldItalicMT", "LiberationSans-BoldItalic.ttf"},
+        {"DejaVu Serif", "DejaVuSerif.ttf"},
+        {"dejavusans-bold", nullptr}, // PostScript names are case-sensitive
+        {"NoSuchFontPS", nullptr},
+    };
+    for (const auto& [name, file] : rows) {
+        const std::optional<FontLocation> found = FindFontByPostScriptName(name);
+        EXPECT_EQ(found ? QFileInfo(found->file).fileName() : QString(), QString(file)) << name;
+    }
+    const std::vector<InstalledFont> fonts = InstalledFonts();
+    const auto dejaVu = std::find_if(fonts.begin(), fonts.end(), [](const InstalledFont& f) {
+        return f.postScriptName == "DejaVuSans";
+    });
+    ASSERT_NE(dejaVu, fonts.end());
+    EXPECT_EQ(dejaVu->family, "DejaVu Sans");
+    EXPECT_TRUE(std::is_sorted(fonts.begin(), fonts.end(), [](const auto& a, const auto& b) {
+        return a.postScriptName.compare(b.postScriptName, Qt::CaseInsensitive) < 0;
+    }));
+}
 
 TEST(WatermarkText, InkCentreLandsOnPageCentreMovedByOffsets)
 {
