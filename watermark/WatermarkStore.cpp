@@ -9,6 +9,7 @@
 #include <QFileDevice>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <limits>
