@@ -241,8 +241,8 @@ QString IppEveryWherePrinter::programPath()
     return FindProgram("dbus-daemon").isEmpty() ? QString() : FindProgram("ippeveprinter");
 }
 
-std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString& name,
-                                                                  QString* error)
+std::unique_ptr<IppEveryWherePrinter>
+IppEveryWherePrinter::start(const QString& name, QString* error, const QString& attributesFile)
 {
     std::unique_ptr<IppEveryWherePrinter> printer(new IppEveryWherePrinter);
     ServerProcess& bus = printer->m_bus;
@@ -264,14 +264,30 @@ std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString&
     // command that returns at once (without one the simulator takes seconds
     // per job); -k keeps each document.
     const auto arguments = [&](int port) {
-        return QString("-n localhost -r off -k -c /bin/true").split(' ') +
-               QStringList{"-p", QString::number(port),
-                           "-d", spool,
-                           "-f", "application/pdf,application/postscript,application/octet-stream",
-                           name};
+        const QStringList description =
+            attributesFile.isEmpty()
+                ? QStringList{"-f",
+                              "application/pdf,application/postscript,application/octet-stream"}
+                : QStringList{"-vv", "-a", attributesFile};
+        return QString("-n localhost -r off -k -c /bin/true").split(' ') + description +
+               QStringList{"-p", QString::number(port), "-d", spool, name};
     };
     printer->m_port = StartOnFreePort(printer->m_printer, arguments, "/ipp/print", error);
     return printer->m_port ? std::move(printer) : nullptr;
+}
+
+bool IppEveryWherePrinter::logged(const QString& text)
+{
+    return PollUntil(kStartMs, [&] {
+        m_printer.waitForReadyRead(50);
+        return output().contains(text);
+    });
+}
+
+std::unique_ptr<ipp_t, void (*)(ipp_t*)> IppEveryWherePrinter::job(int jobId) const
+{
+    auto response = Request(m_port, "/ipp/print", jobId);
+    return {response.release(), &ippDelete};
 }
 
 QStringList IppEveryWherePrinter::receivedDocuments() const

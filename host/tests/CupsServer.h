@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <cups/ipp.h>
+
 #include <memory>
 
 namespace orvan::testing {
@@ -70,11 +72,19 @@ class IppEveryWherePrinter
 public:
     // The program, or an empty string when the machine lacks it or dbus-daemon.
     static QString programPath();
-    static std::unique_ptr<IppEveryWherePrinter> start(const QString& name, QString* error);
+    // With an attributes file the printer describes itself from it (its
+    // document formats included) and logs every request it receives, so that
+    // output() shows the operation attributes it keeps nowhere else.
+    static std::unique_ptr<IppEveryWherePrinter> start(const QString& name, QString* error,
+                                                       const QString& attributesFile = {});
 
     QString uri() const { return QStringLiteral("ipp://127.0.0.1:%1/ipp/print").arg(m_port); }
     QStringList receivedDocuments() const;
-    QString output() { return QString::fromLocal8Bit(m_printer.readAll()); }
+    QString output() { return m_output += QString::fromLocal8Bit(m_printer.readAll()); }
+    // Waits, within a bound, until the printer's log shows the text.
+    bool logged(const QString& text);
+    // The printer's own record of its job: Get-Job-Attributes, every attribute.
+    std::unique_ptr<ipp_t, void (*)(ipp_t*)> job(int jobId) const;
 
 private:
     IppEveryWherePrinter() = default;
@@ -82,6 +92,7 @@ private:
     ServerProcess m_bus;
     ServerProcess m_printer;
     int m_port = 0;
+    QString m_output;
 };
 
 // A loopback port that nothing listens on at the moment of the call.
