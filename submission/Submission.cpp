@@ -54,6 +54,62 @@ void AddDocumentFormat(ipp_t* request, const QByteArray& format)
                  format.constData());
 }
 
+// A value as CUPS option text: strings that hold a separator are quoted
+// (with the quote they do not hold), so that a collection's text parses back
+// into the same members.
+QByteArray OptionText(ipp_attribute_t* attribute)
+{
+    QByteArrayList values;
+    for (int i = 0; i < ippGetCount(attribute); ++i) {
+        switch (ippGetValueTag(attribute)) {
+        case IPP_TAG_BEGIN_COLLECTION: {
+            ipp_t* collection = ippGetCollection(attribute, i);
+            QByteArrayList members;
+            for (ipp_attribute_t* member = ippFirstAttribute(collection); member;
+                 member = ippNextAttribute(collection))
+                members << ippGetName(member) + QByteArray("=") + OptionText(member);
+            values << '{' + members.join(' ') + '}';
+            break;
+        }
+        case IPP_TAG_INTEGER:
+        case IPP_TAG_ENUM:
+            values << QByteArray::number(ippGetInteger(attribute, i));
+            break;
+        case IPP_TAG_BOOLEAN:
+            values << (ippGetBoolean(attribute, i) ? "true" : "false");
+            break;
+        case IPP_TAG_RANGE: {
+            int upper = 0;
+            const int lower = ippGetRange(attribute, i, &upper);
+            values << QByteArray::number(lower) + '-' + QByteArray::number(upper);
+            break;
+        }
+        case IPP_TAG_RESOLUTION: {
+            int y = 0;
+            ipp_res_t units;
+            const int x = ippGetResolution(attribute, i, &y, &units);
+            values << QByteArray::number(x) + 'x' + QByteArray::number(y) +
+                          (units == IPP_RES_PER_INCH ? "dpi" : "dpcm");
+            break;
+        }
+        default: {
+            QByteArray text = ippGetString(attribute, i, nullptr);
+            const bool plain =
+                !text.isEmpty() && std::none_of(text.begin(), text.end(), [](char c) {
+                    return std::strchr(" ,{}\"'\\", c) != nullptr;
+                });
+            if (!plain) {
+                const char quote = text.contains('"') && !text.contains('\'') ? '\'' : '"';
+                text.replace("\\", "\\\\").replace(QByteArray(1, quote), QByteArray("\\") + quote);
+                text = quote + text + quote;
+            }
+            values << text;
+        }
+        }
+    }
+    return values.join(',');
+}
+
 // The attributes a queue takes, in the form the server hands on (see the
 // header): collections as text, the hold time as a time of day.
 void AddQueueAttributes(ipp_t* request, const JobDescription& job)
@@ -65,10 +121,8 @@ void AddQueueAttributes(ipp_t* request, const JobDescription& job)
         const char* name = ippGetName(attribute);
         const bool jobAttribute = qstrncmp(name, "job-", 4) == 0;
         if (ippGetValueTag(attribute) == IPP_TAG_BEGIN_COLLECTION && !jobAttribute) {
-            const int length = static_cast<int>(ippAttributeString(attribute, nullptr, 0));
-            QByteArray text(length, '\0');
-            ippAttributeString(attribute, text.data(), static_cast<size_t>(length) + 1);
-            ippAddString(request, IPP_TAG_JOB, IPP_TAG_TEXT, name, nullptr, text.constData());
+            ippAddString(request, IPP_TAG_JOB, IPP_TAG_TEXT, name, nullptr,
+                         OptionText(attribute).constData());
         } else if (qstrcmp(name, "job-hold-until-time") == 0) {
             const QDateTime when =
                 QDateTime::fromSecsSinceEpoch(ippDateToTime(ippGetDate(attribute, 0)), Qt::UTC);

@@ -258,6 +258,7 @@ IppEveryWherePrinter::start(const QString& name, QString* error, const QString& 
     environment.insert("DBUS_SYSTEM_BUS_ADDRESS", bus.readAllStandardOutput().trimmed());
     printer->m_printer.setProcessEnvironment(environment);
     printer->m_printer.setProgram(programPath());
+    printer->m_printer.setStandardOutputFile(printer->m_root.filePath("printer.log"));
     const QString spool = printer->m_root.filePath("spool");
     QDir().mkpath(spool);
     // -n localhost -r off: no DNS-SD announcement, on loopback; -c: a print
@@ -276,12 +277,15 @@ IppEveryWherePrinter::start(const QString& name, QString* error, const QString& 
     return printer->m_port ? std::move(printer) : nullptr;
 }
 
-bool IppEveryWherePrinter::logged(const QString& text)
+QString IppEveryWherePrinter::output() const
 {
-    return PollUntil(kStartMs, [&] {
-        m_printer.waitForReadyRead(50);
-        return output().contains(text);
-    });
+    QFile log(m_root.filePath("printer.log"));
+    return log.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(log.readAll()) : QString();
+}
+
+bool IppEveryWherePrinter::logged(const QString& text) const
+{
+    return PollUntil(kStartMs, [&] { return output().contains(text); });
 }
 
 std::unique_ptr<ipp_t, void (*)(ipp_t*)> IppEveryWherePrinter::job(int jobId) const

@@ -62,7 +62,7 @@ ATTR keyword sides-supported one-sided,two-sided-long-edge,two-sided-short-edge
 ATTR keyword output-bin-supported auto,top,stacker
 ATTR enum finishings-supported 3,20,28,74,78
 ATTR keyword finishings-col-supported finishing-template
-ATTR keyword media-col-supported media-size,media-type,media-color,media-source,media-weight-metric
+ATTR keyword media-col-supported media-size,media-type,media-color,media-source,media-weight-metric,media-info
 ATTR keyword media-type-supported stationery,tab-stock,cardstock
 ATTR keyword media-color-supported white,blue,yellow,pink,green
 ATTR keyword media-source-supported auto,tray-1,tray-2
@@ -76,6 +76,18 @@ ATTR integer job-password-supported 10
 ATTR keyword job-password-encryption-supported none
 ATTR boolean job-sheet-message-supported true
 ATTR boolean job-message-to-operator-supported true
+ATTR enum print-quality-supported 3,4,5
+ATTR resolution printer-resolution-supported 600dpi,1200dpi,200x100dpi,200dpi
+ATTR enum orientation-requested-supported 3,4
+ATTR rangeOfInteger number-up-supported 1-16
+ATTR keyword proof-print-supported proof-print-copies
+ATTR keyword job-storage-supported job-storage-access,job-storage-disposition,job-storage-group
+ATTR keyword job-storage-access-supported owner,public
+ATTR keyword job-storage-disposition-supported print-and-store,store-only
+ATTR rangeOfInteger job-hold-until-time-supported 0-2147483647
+ATTR keyword destination-uris-supported destination-uri,pre-dial-string
+ATTR keyword cover-sheet-info-supported message,from-name
+ATTR boolean confirmation-sheet-print-supported true
 )") > 0;
 }
 

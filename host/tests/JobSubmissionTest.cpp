@@ -17,6 +17,8 @@
 #include <QDirIterator>
 #include <QFileInfo>
 
+#include <functional>
+
 using namespace orvan;
 using namespace orvan::submission;
 using namespace orvan::testing;
@@ -42,6 +44,7 @@ void FillFullJob(PrintSession& session)
     stock.setSize(1);                  // Letter
     stock.setSource(1);
     stock.setWeight(90);
+    stock.setDescription("Linen, \"laid\" finish");
     t.setItem(kPanelClient, kJobLevelStockKey, stock.asTicket());
     Cover front;
     front.stock() = ColouredStock(kUnset, 3); // Yellow
@@ -176,6 +179,99 @@ TEST_F(Submission, FullJobReachesAnIppPrinterThroughACupsQueue)
         EXPECT_TRUE(IppText(recorded.get(), name).startsWith(QStringLiteral("%1 (").arg(name)))
             << name;
     EXPECT_TRUE(m_printer->logged(QStringLiteral("job-password (octetString) %1").arg(kPasscode)));
+}
+
+// The job types and the settings of the other panels, one job each, sent
+// straight to the printer and through a queue: what arrives as sent.
+TEST_F(Submission, EveryJobTypeReachesThePrinter)
+{
+    std::unique_ptr<CupsServer> server;
+    ASSERT_NO_FATAL_FAILURE(StartCupsWithSampleQueue(server));
+    if (!server)
+        return;
+    QString why;
+    ASSERT_TRUE(server->addQueue("Finisher", m_printer->uri(), QString(), &why))
+        << why.toStdString();
+    const auto jobType = [](std::int32_t type, PropertyDictionary more = {}) {
+        more[kJobTypeValueKey] = PropertyValue::integer(type, NumberType::SInt32);
+        return PropertyValue(std::move(more));
+    };
+    const struct
+    {
+        const char* what;
+        std::function<void(Ticket&)> fill;
+        QStringList attributes;
+        // Those that arrive exactly through the queue: the server keeps "job-..."
+        // attributes, and the backend types collection members by its own table
+        // (names for proof-print-copies, destination-uri, message).
+        QStringList throughQueue;
+    } rows[] = {
+        {"image quality, sides, pages, page setup",
+         [](Ticket& t) {
+             t.ppdDictionary().insert("Resolution", "1200x1200dpi");
+             t.ppdDictionary().insert("JCLPrintQuality", "Enhanced");
+             t.ppdDictionary().insert("Duplex", "DuplexTumble");
+             t.setItem(kPanelClient, kLayoutRowsKey, PropertyValue::integer(2));
+             t.setItem(kPanelClient, kLayoutColumnsKey, PropertyValue::integer(1));
+             WriteCopiesAndPages(t, 2, 1, 2);
+         },
+         {"printer-resolution", "print-quality", "sides", "number-up", "copies", "page-ranges"},
+         {"printer-resolution", "print-quality", "sides", "number-up", "copies", "page-ranges"}},
+        {"saved job",
+         [&](Ticket& t) {
+             t.setItem(kPanelClient, kJobTypeKey,
+                       jobType(3, {{kSaveDispositionKey, PropertyValue::integer(1)},
+                                   {kSavedJobLocationKey, "file:///job-repository/Finance/"}}));
+         },
+         {"job-storage"},
+         {}},
+        {"sample set",
+         [&](Ticket& t) { t.setItem(kPanelClient, kJobTypeKey, jobType(8)); },
+         {"proof-print"},
+         {}},
+        {"fax",
+         [&](Ticket& t) {
+             t.setItem(kPanelClient, kJobTypeKey, jobType(5));
+             t.setItem(kPanelClient, kFaxRecipientListKey,
+                       PropertyArray{PropertyDictionary{{kFaxNumberKey, "555-0100"}}});
+             t.setItem(kPanelClient, kFaxOptionsKey,
+                       PropertyDictionary{{kFaxConfirmationSheetKey, PropertyValue::boolean(true)},
+                                          {kFaxCoverSheetKey, PropertyValue::boolean(true)},
+                                          {kFaxCoverSheetNotesKey, "Two pages"},
+                                          {kFaxDialingPrefixKey, "9"},
+                                          {kFaxResolutionKey, PropertyValue::integer(1)}});
+         },
+         {"destination-uris", "confirmation-sheet-print", "cover-sheet-info", "printer-resolution"},
+         {"confirmation-sheet-print", "printer-resolution"}},
+    };
+    int printerJobs = 0;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        PrintSession session;
+        row.fill(session.printSettings());
+        const JobDescription sent = DescribeJob(session, "document.ps");
+        const auto arrived = [&](int jobId) {
+            const auto recorded = m_printer->job(jobId);
+            QStringList names;
+            for (const QString& name : row.attributes) {
+                const QString expected = IppText(sent.attributes.get(), qPrintable(name), true);
+                EXPECT_FALSE(expected.isEmpty()) << qPrintable(name);
+                if (recorded && IppText(recorded.get(), qPrintable(name), true) == expected)
+                    names << name;
+            }
+            return names;
+        };
+        const auto direct =
+            SubmitSession(session, PrinterAtUri(m_printer->uri()), {path("document.ps")});
+        ASSERT_TRUE(direct.error.isEmpty()) << direct.error.toStdString();
+        EXPECT_EQ(direct.notices, QStringList());
+        EXPECT_EQ(arrived(++printerJobs), row.attributes);
+        const auto queued =
+            SubmitSession(session, PrinterEntry{.queueName = "Finisher"}, {path("document.ps")});
+        ASSERT_TRUE(queued.error.isEmpty()) << queued.error.toStdString();
+        EXPECT_EQ(server->waitForJob(queued.jobIds.front()).value("job-state"), "completed");
+        EXPECT_EQ(arrived(++printerJobs), row.throughQueue);
+    }
 }
 
 TEST_F(Submission, FailuresGiveOneLineAndNoJob)
