@@ -11,8 +11,9 @@ int RunHeadlessPrint(PluginHost& plugin, PrintSession& session, const PrinterEnt
                      const QStringList& files, const QString& saveTicket)
 {
     plugin.prolog();
-    plugin.initialize(nullptr, &session);
+    plugin.initialize({}, &session);
     plugin.sync(&session, true);
+    plugin.open();
     plugin.sync(&session, false);
     plugin.close();
     plugin.terminate(kNoError);
