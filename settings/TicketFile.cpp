@@ -151,8 +151,9 @@ bool saveTicketFile(const QString& path, const PrintSession& session, QString* e
 {
     int code = 0;
     QString why;
+    // A job's own ticket holds its passcode: it is the user's alone.
     if (WritePropertyListFile(path, sessionToPropertyList(session), &code, &why,
-                              QFileDevice::ReadOwner | QFileDevice::WriteOwner))
+                              FilePrivacy::OwnerOnly))
         return true;
     return fail(error, QStringLiteral("cannot write %1: %2").arg(path, why));
 }
