@@ -165,9 +165,10 @@ bool RunModalSecurePrintSetup(const Bundle* bundle, QString& passcode, QWidget* 
     hint->setMinimumWidth(340);
     auto* form = new QFormLayout;
     const PasscodePair pair(&dialog, bundle, form);
-    if (!passcode.isEmpty())
-        pair.show(passcode);
-    pair.enableConfirmation(true);
+    // A held passcode opens both fields; otherwise the confirmation waits
+    // for a passcode long enough.
+    pair.show(passcode);
+    pair.confirmation->setEnabled(!passcode.isEmpty());
     QObject::connect(pair.passcode, &QLineEdit::textChanged, &dialog,
                      [&pair] { pair.enableConfirmation(true); });
     auto* controls = new QVBoxLayout;
