@@ -34,6 +34,7 @@ public:
         setWindowTitle(SpecialPagesText(bundle, QStringLiteral("Inserts Dialog Title")));
         m_quantity->setObjectName(QStringLiteral("QuantityField"));
         m_quantity->setRange(kMinimumInsertQuantity, kMaximumInsertQuantity);
+        m_quantity->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         m_quantity->setValue(m_model.insert().quantity());
         m_position->setObjectName(QStringLiteral("PositionPopup"));
         for (const QString& key : kInsertPositionKeys)

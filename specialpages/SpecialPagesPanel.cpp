@@ -48,7 +48,7 @@ SpecialPagesView::SpecialPagesView(SpecialPagesModel& model, const Bundle* bundl
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_list->header()->setStretchLastSection(true);
     m_list->header()->setSectionsMovable(false);
-    m_list->setColumnWidth(PagesColumn, 90);
+    m_list->setColumnWidth(PagesColumn, 110);
     m_list->setColumnWidth(TypeColumn, 80);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &SpecialPagesView::selectionChanged);
     connect(m_list, &QTreeWidget::itemDoubleClicked, this,
