@@ -1,9 +1,9 @@
 #include "specialpages/SpecialPagesModel.h"
 
-#include "imagequality/PanelText.h"
 #include "platform/Alerts.h"
 #include "settings/PrintSession.h"
 #include "settings/Ticket.h"
+#include "shell/PanelText.h"
 #include "specialpages/SpecialPageKeys.h"
 
 #include <QFileInfo>

@@ -28,7 +28,6 @@ class PrintSession;
 class Ticket;
 
 inline const QString kSpecialPagesTitleKey = QStringLiteral("Special Pages");
-inline const QString kSpecialPagesKind = QStringLiteral("com.orvan.print.pde.specialpageskind");
 // The platform's n-up layout flag; booklet layout is kBookletLayoutKey.
 inline const QString kLayoutNUpKey = QStringLiteral("com.apple.print.PrintSettings.PMLayoutNUp");
 
@@ -96,6 +95,8 @@ public:
     SpecialPagesModel& operator=(const SpecialPagesModel&) = delete;
 
     const Bundle* bundle() const { return m_bundle; }
+    // Texts made after this come from the bundle.
+    void setBundle(const Bundle* bundle) { m_bundle = bundle; }
     // The covers and lists the dialogs edit; call pagesChanged() after
     // changing them from outside.
     SpecialPagesState& state() { return m_state; }

@@ -1,7 +1,6 @@
 #include "specialpages/SpecialPagesPanel.h"
 
-#include "imagequality/PanelPane.h"
-#include "imagequality/PanelText.h"
+#include "shell/PanelPane.h"
 #include "specialpages/SpecialPagesDialogParts.h"
 #include "specialpages/SpecialPagesDialogs.h"
 
@@ -146,49 +145,9 @@ bool SpecialPagesView::runDialog(const SpecialPagesAction& action)
     return false;
 }
 
-SpecialPagesPanel::SpecialPagesPanel() : SpecialPagesPanel(ShellBundle()) {}
-
-SpecialPagesPanel::SpecialPagesPanel(const Bundle* bundle) : m_bundle(bundle), m_model(bundle) {}
-
-SpecialPagesPanel::~SpecialPagesPanel()
+Status SpecialPagesPanel::loadModel(PrintSession*)
 {
-    delete m_view;
-}
-
-PanelBase::Description SpecialPagesPanel::describe() const
-{
-    Description description;
-    description.kind = kSpecialPagesKind;
-    description.title = PanelText(m_bundle, kSpecialPagesTitleKey);
-    return description;
-}
-
-Status SpecialPagesPanel::initialize(QWidget* parent, PrintSession*)
-{
-    if (parent)
-        m_view = new SpecialPagesView(m_model, m_bundle, parent);
-    return kNoError;
-}
-
-Status SpecialPagesPanel::sync(PrintSession* session, bool direction)
-{
-    const Status status = m_model.sync(session, direction);
-    if (direction && m_view)
-        m_view->showModel();
-    return status;
-}
-
-Status SpecialPagesPanel::summaryText(PropertyValue* titles, PropertyValue* values)
-{
-    if (!titles || !values)
-        return kBadParameter;
-    m_model.appendSummary(m_bundle, titles, values);
-    return kNoError;
-}
-
-Status SpecialPagesPanel::terminate(Status)
-{
-    delete m_view;
+    model().setBundle(bundle());
     return kNoError;
 }
 

@@ -1,13 +1,13 @@
 // The Special Pages panel: SpecialPagesView shows a SpecialPagesModel (the
 // list of covers, inserts and exception pages and the command buttons) and
-// runs the dialogs the model asks for; SpecialPagesPanel is the panel the
-// host drives, with or without the view.
+// runs the dialogs the model asks for; SpecialPagesPanel joins them for the
+// host, which shows the panel as a pane of its own (the shell does not load
+// it).
 #pragma once
 
-#include "shell/PanelBase.h"
+#include "shell/ModelPanel.h"
 #include "specialpages/SpecialPagesModel.h"
 
-#include <QPointer>
 #include <QWidget>
 
 #include <map>
@@ -47,29 +47,17 @@ private:
     bool m_showing = false;
 };
 
-class SpecialPagesPanel : public PanelBase
+class SpecialPagesPanel : public ModelPanel<SpecialPagesModel, SpecialPagesView>
 {
 public:
-    // The bundle is the shell's (the plug-in's own) unless given.
-    SpecialPagesPanel();
-    explicit SpecialPagesPanel(const Bundle* bundle);
-    ~SpecialPagesPanel() override;
+    using ModelPanel::ModelPanel;
 
     // Title "Special Pages".
-    Description describe() const override;
-    // Builds the view when there is a parent.
-    Status initialize(QWidget* parent, PrintSession* session) override;
-    Status sync(PrintSession* session, bool direction) override;
-    Status summaryText(PropertyValue* titles, PropertyValue* values) override;
-    Status terminate(Status status) override;
+    Description describe() const override { return describeAs(kSpecialPagesTitleKey); }
 
-    SpecialPagesModel& model() { return m_model; }
-    SpecialPagesView* view() const { return m_view; }
-
-private:
-    const Bundle* m_bundle;
-    SpecialPagesModel m_model;
-    QPointer<SpecialPagesView> m_view;
+protected:
+    // The model takes the panel's bundle for its texts.
+    Status loadModel(PrintSession* session) override;
 };
 
 } // namespace orvan
