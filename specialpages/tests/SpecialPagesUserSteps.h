@@ -99,20 +99,25 @@ inline void SelectRows(QWidget* pane, std::initializer_list<int> rows)
         list->topLevelItem(row)->setSelected(true);
 }
 
-// The first column of every row, joined with " | ".
-inline QString ListedPages(QWidget* pane)
+// One column of every row, joined with " | ".
+inline QString ListedColumn(QWidget* pane, int column)
 {
     auto* list = Control<QTreeWidget>(pane, "SpecialPagesList");
-    QStringList pages;
+    QStringList texts;
     for (int i = 0; list && i < list->topLevelItemCount(); ++i)
-        pages << list->topLevelItem(i)->text(0);
-    return pages.join(QStringLiteral(" | "));
+        texts << list->topLevelItem(i)->text(column);
+    return texts.join(QStringLiteral(" | "));
 }
 
-// The user's session: a front cover, an insert before page 1 and one after
-// page 7, exception pages "1, 4-6" and "10-12"; then deleting the cover but
-// answering No, Undo, and moving the insert before page 1 after the other.
-// Leaves the list as "Front | 7 | Before page 1 | 1 | 4-6 | 10-12".
+inline QString ListedPages(QWidget* pane)
+{
+    return ListedColumn(pane, 0);
+}
+
+// The user's session: a front cover, one and then two sheets after page 7,
+// exception pages "1, 4-6" and "10-12"; then deleting the cover but answering
+// No, Undo, and moving the two sheets before the one sheet (inserts on the
+// same page keep the order they are moved to).
 inline void AddSpecialPagesAsAUserWould(QWidget* pane)
 {
     RunCommand(pane, "AddCoversButton", "CoversDialog", [](QWidget* dialog) {
@@ -121,16 +126,16 @@ inline void AddSpecialPagesAsAUserWould(QWidget* pane)
         MaybeGrab(dialog, QStringLiteral("covers-dialog"));
         ClickOK(dialog);
     });
-    RunCommand(pane, "AddInsertsButton", "InsertsDialog", [](QWidget* dialog) {
-        Choose(Control<QComboBox>(dialog, "PositionPopup"), 1); // before page 1
-        ClickOK(dialog);
-    });
-    RunCommand(pane, "AddInsertsButton", "InsertsDialog", [](QWidget* dialog) {
-        Control<QAbstractSpinBox>(dialog, "QuantityField")->stepUp();
-        TypePages(dialog, QStringLiteral("7"));
-        MaybeGrab(dialog, QStringLiteral("inserts-dialog"));
-        ClickOK(dialog);
-    });
+    for (const int sheets : {1, 2}) {
+        RunCommand(pane, "AddInsertsButton", "InsertsDialog", [sheets](QWidget* dialog) {
+            Choose(Control<QComboBox>(dialog, "PositionPopup"), 0); // after pages
+            if (sheets == 2)
+                Control<QAbstractSpinBox>(dialog, "QuantityField")->stepUp();
+            TypePages(dialog, QStringLiteral("7"));
+            MaybeGrab(dialog, QStringLiteral("inserts-dialog"));
+            ClickOK(dialog);
+        });
+    }
     for (const char* pages : {"1, 4-6", "10-12"}) {
         RunCommand(pane, "AddExceptionsButton", "ExceptionsDialog", [pages](QWidget* dialog) {
             TypePages(dialog, QLatin1String(pages));
@@ -139,7 +144,7 @@ inline void AddSpecialPagesAsAUserWould(QWidget* pane)
             ClickOK(dialog);
         });
     }
-    EXPECT_EQ(ListedPages(pane), "Front | Before page 1 | 7 | 1 | 4-6 | 10-12");
+    EXPECT_EQ(ListedPages(pane), "Front | 7 | 7 | 1 | 4-6 | 10-12");
 
     SelectRows(pane, {0});
     RunCommand(pane, "DeleteButton", "Question", [](QWidget* box) {
@@ -150,10 +155,11 @@ inline void AddSpecialPagesAsAUserWould(QWidget* pane)
     ASSERT_TRUE(undo && undo->isEnabled());
     undo->click();
     EXPECT_FALSE(undo->isEnabled());
+    EXPECT_EQ(ListedPages(pane), "Front | 7 | 7 | 1 | 4-6 | 10-12");
 
-    SelectRows(pane, {1});
-    Control<QAbstractButton>(pane, "MoveDownButton")->click();
-    EXPECT_EQ(ListedPages(pane), "Front | 7 | Before page 1 | 1 | 4-6 | 10-12");
+    SelectRows(pane, {2});
+    Control<QAbstractButton>(pane, "MoveUpButton")->click();
+    EXPECT_TRUE(ListedColumn(pane, 2).startsWith("Printed | Sheets [2] | Sheets [1]"));
     MaybeGrab(pane, QStringLiteral("special-pages-pane"));
 }
 

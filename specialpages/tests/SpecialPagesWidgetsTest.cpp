@@ -69,7 +69,7 @@ TEST_F(SpecialPagesPaneTest, AUsersSessionReachesTheTicket)
         TypePages(dialog, QStringLiteral("11-12"));
         ClickOK(dialog);
     });
-    EXPECT_EQ(ListedPages(&pane), "Front | 7 | Before page 1 | 1 | 4-6 | 11-12");
+    EXPECT_EQ(ListedPages(&pane), "Front | 7 | 7 | 1 | 4-6 | 11-12");
 }
 
 // The field refuses other characters; a bad text raises its alert and the
