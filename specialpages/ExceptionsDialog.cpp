@@ -77,7 +77,7 @@ private:
     ExceptionsDialogModel m_model;
     ExceptionPageList& m_exceptions;
     const ExceptionPage* m_edited;
-    const std::function<void()>& m_saveUndoState;
+    std::function<void()> m_saveUndoState;
     QLineEdit* m_pages;
     QComboBox* m_plex;
     StockButton* m_stock;

@@ -94,7 +94,7 @@ private:
     InsertsDialogModel m_model;
     InsertList& m_inserts;
     const Insert* m_edited;
-    const std::function<void()>& m_saveUndoState;
+    std::function<void()> m_saveUndoState;
     QSpinBox* m_quantity;
     QComboBox* m_position;
     QLineEdit* m_pages;
