@@ -52,15 +52,19 @@ Status SpecialPagesModel::sync(PrintSession* session, bool direction)
 void SpecialPagesModel::syncFromTicket(const Ticket& ticket)
 {
     m_state.readFromTicket(ticket);
+    m_coversChanged = false;
     m_undo = {};
     clearSelection();
     updateSpecialPagesUI(ticket);
     updateSpecialPagesSummary();
 }
 
-Status SpecialPagesModel::syncToTicket(Ticket& ticket) const
+Status SpecialPagesModel::syncToTicket(Ticket& ticket)
 {
-    return m_state.writeToTicket(ticket);
+    const Status status = m_state.writeToTicket(ticket, m_coversChanged);
+    if (status == kNoError)
+        m_coversChanged = false;
+    return status;
 }
 
 void SpecialPagesModel::appendSummary(const Bundle* bundle, PropertyValue* titles,
@@ -247,8 +251,10 @@ Status SpecialPagesModel::handleCommand(SpecialPagesCommand command, SpecialPage
 
 void SpecialPagesModel::dialogFinished(const SpecialPagesAction& action, bool accepted)
 {
-    if (action.dialog == SpecialPagesAction::Dialog::Covers && accepted)
+    if (action.dialog == SpecialPagesAction::Dialog::Covers && accepted) {
         m_undo = std::move(m_coversBeforeDialog);
+        m_coversChanged = true;
+    }
     m_coversBeforeDialog = {};
     if (action.dialog != SpecialPagesAction::Dialog::None && accepted)
         clearSelection();
@@ -269,6 +275,7 @@ void SpecialPagesModel::deleteRows(bool all)
     if (AskQuestion(question) != QuestionAnswer::Other)
         return;
     if (all) {
+        m_coversChanged = m_coversChanged || m_state.frontCover || m_state.backCover;
         m_state.frontCover.reset();
         m_state.backCover.reset();
         m_state.inserts.clear();
@@ -279,9 +286,11 @@ void SpecialPagesModel::deleteRows(bool all)
             switch (row.kind) {
             case SpecialPageKind::FrontCover:
                 m_state.frontCover.reset();
+                m_coversChanged = true;
                 break;
             case SpecialPageKind::BackCover:
                 m_state.backCover.reset();
+                m_coversChanged = true;
                 break;
             case SpecialPageKind::Insert:
                 m_state.inserts.remove(row.page);
@@ -335,6 +344,7 @@ Status SpecialPagesModel::performUndo()
     m_state.inserts = m_undo.inserts ? std::move(*m_undo.inserts) : InsertList();
     m_state.exceptions = m_undo.exceptions ? std::move(*m_undo.exceptions) : ExceptionPageList();
     m_undo = {};
+    m_coversChanged = true;
     clearSelection();
     return kNoError;
 }

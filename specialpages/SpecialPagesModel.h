@@ -102,13 +102,15 @@ public:
     SpecialPagesState& state() { return m_state; }
     const SpecialPagesState& state() const { return m_state; }
 
-    // Sync with the session's print-settings ticket: false writes the lists
-    // and covers, true reads them (and the job-level stock and layout),
-    // forgetting the selection and the undo state. kSyncMissingContext
-    // without a session.
+    // Sync with the session's print-settings ticket: false writes the lists,
+    // and the covers when they changed here since they were last read or
+    // written (the Paper/Output panel edits them too, and its change must
+    // not be overwritten by covers this pane only read); true reads them
+    // all (and the job-level stock and layout), forgetting the selection
+    // and the undo state. kSyncMissingContext without a session.
     Status sync(PrintSession* session, bool direction);
     void syncFromTicket(const Ticket& ticket);
-    Status syncToTicket(Ticket& ticket) const;
+    Status syncToTicket(Ticket& ticket);
 
     // Appends one title/value pair per row, or one saying there are none.
     void appendSummary(const Bundle* bundle, PropertyValue* titles, PropertyValue* values) const;
@@ -171,6 +173,7 @@ private:
     std::vector<SpecialPagesRow> m_rows;
     std::vector<const SpecialPage*> m_selection; // in list order
     bool m_layoutDisablesAdding = false;
+    bool m_coversChanged = false;
 };
 
 } // namespace orvan

@@ -1,6 +1,6 @@
 // The Special Pages pane in the Print dialog, offscreen: a user's special
-// pages go through Print into the saved ticket, and orvan-print's headless
-// run of that ticket keeps them.
+// pages (and covers chosen on the Paper/Output tab) go through Print into the
+// saved ticket, and orvan-print's headless run of that ticket keeps them.
 #include "host/PrintDialog.h"
 #include "host/tests/CupsServer.h"
 #include "host/tests/HostTestSupport.h"
@@ -60,6 +60,11 @@ TEST(SpecialPagesPane, PagesAddedInThePaneReachTheSavedTicketAndTheHeadlessRun)
             {{.displayName = kSamplePrinterName, .isDefault = true, .isSample = true}},
             {.saveTicketPath = saved});
         dialog.show();
+        // Paper/Output's covers command opens the same covers dialog.
+        RunCommand(&dialog, "CoversButton", "CoversDialog", [](QWidget* covers) {
+            Choose(Control<QComboBox>(covers, "CoversOptionsPopup"), 2); // front and back
+            ClickOK(covers);
+        });
         auto* panes = Control<QComboBox>(&dialog, "PanePopup");
         ASSERT_TRUE(panes);
         const int item = panes->findText("Special Pages");
@@ -67,6 +72,7 @@ TEST(SpecialPagesPane, PagesAddedInThePaneReachTheSavedTicketAndTheHeadlessRun)
         Choose(panes, item);
         QWidget* pane = Control<QWidget>(&dialog, "SpecialPages");
         ASSERT_TRUE(pane && pane->isVisible());
+        EXPECT_EQ(ListedPages(pane), "Front | Back");
         AddSpecialPagesAsAUserWould(pane);
         Control<QPushButton>(&dialog, "PrintButton")->click();
         EXPECT_EQ(dialog.result(), QDialog::Accepted);

@@ -231,18 +231,33 @@ TEST_F(SpecialPagesEditorTest, MovingSwapsInsertsAndKeepsTheSelection)
     EXPECT_EQ(column(&SpecialPagesRow::attributes), "Sheets [1] | Sheets [2] | Sheets [3]");
 }
 
-TEST_F(SpecialPagesEditorTest, SyncWritesTheTicketFormsAndReadsThemBack)
+// Covers are written only when changed in this pane: the Paper/Output panel
+// edits them too, and its change must survive this pane's later sync.
+TEST_F(SpecialPagesEditorTest, SyncWritesTheListsAndOnlyCoversChangedHere)
 {
     PrintSession session;
-    model.state().frontCover = std::make_unique<Cover>();
+    Ticket& ticket = session.printSettings();
+    const Cover blank;
+    WriteCoversToTicket(ticket, &blank, nullptr);
+    ASSERT_EQ(model.sync(&session, true), kNoError);
+    EXPECT_EQ(column(&SpecialPagesRow::pages), "Front");
+
+    WriteCoversToTicket(ticket, nullptr, nullptr); // switched off elsewhere
     addInsert(0);
     addException(2, 4, kPlexSimplex);
     refresh();
     ASSERT_EQ(model.sync(&session, false), kNoError);
-    const Ticket& ticket = session.printSettings();
-    for (const QString& key : {kFrontCoverKey, kInsertListKey, kExceptionListKey})
-        EXPECT_TRUE(ticket.containsItem(key)) << key.toStdString();
-    EXPECT_FALSE(ticket.containsItem(kBackCoverKey));
+    EXPECT_FALSE(ticket.containsItem(kFrontCoverKey));
+    EXPECT_TRUE(ticket.containsItem(kInsertListKey));
+    EXPECT_TRUE(ticket.containsItem(kExceptionListKey));
+
+    SpecialPagesAction covers;
+    model.handleCommand(Command::AddCovers, &covers);
+    model.state().backCover = std::make_unique<Cover>();
+    model.dialogFinished(covers, true);
+    ASSERT_EQ(model.sync(&session, false), kNoError);
+    EXPECT_TRUE(ticket.containsItem(kFrontCoverKey));
+    EXPECT_TRUE(ticket.containsItem(kBackCoverKey));
 
     SpecialPagesModel reread(bundle.get());
     ASSERT_EQ(reread.sync(&session, true), kNoError);
