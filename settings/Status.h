@@ -21,6 +21,8 @@ inline constexpr Status kEventNotHandled = -9874;
 inline constexpr Status kTicketItemNotFound = -9589;
 // A ticket item is locked and cannot be replaced or removed.
 inline constexpr Status kTicketItemLocked = -9590;
+// The address book could not be written (its folder or a contact file).
+inline constexpr Status kAddressBookWriteFailed = -36;
 // Query-interface for an interface the object does not offer.
 inline constexpr Status kNoSuchInterface = static_cast<Status>(0x80000004u);
 
