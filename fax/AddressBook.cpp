@@ -65,8 +65,7 @@ QByteArray AddressBookRecordToVCard(const AddressBookRecord& record)
     out.push_back(textProperty(QStringLiteral("UID"), record.uid));
     if (record.kind == AddressBookRecord::Kind::Group) {
         out.push_back(textProperty(QStringLiteral("KIND"), QStringLiteral("group")));
-        out.push_back(
-            textProperty(QStringLiteral("FN"), EscapeVCardText(record.formattedName)));
+        out.push_back(textProperty(QStringLiteral("FN"), EscapeVCardText(record.formattedName)));
         for (const QString& member : record.memberUIDs)
             out.push_back(textProperty(QStringLiteral("MEMBER"), member));
         return SerializeVCard(card);
@@ -77,7 +76,8 @@ QByteArray AddressBookRecordToVCard(const AddressBookRecord& record)
                                                         EscapeVCardText(record.firstName) +
                                                         QStringLiteral(";;;")));
     for (const LabelledValue& phone : record.phones)
-        out.push_back(textProperty(QStringLiteral("TEL"), EscapeVCardText(phone.value), phone.types));
+        out.push_back(
+            textProperty(QStringLiteral("TEL"), EscapeVCardText(phone.value), phone.types));
     for (const LabelledValue& email : record.emails)
         out.push_back(
             textProperty(QStringLiteral("EMAIL"), EscapeVCardText(email.value), email.types));

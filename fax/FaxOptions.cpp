@@ -25,9 +25,9 @@ bool booleanOr(const PropertyValue& options, const QString& key, bool fallback)
 FaxOptionControls ReadFaxOptions(const PropertyValue& options)
 {
     FaxOptionControls controls;
-    controls.confirmationSheet =
-        booleanOr(options, kFaxConfirmationSheetKey, true) ? kPrintConfirmationSheet
-                                                            : kNoConfirmationSheet;
+    controls.confirmationSheet = booleanOr(options, kFaxConfirmationSheetKey, true)
+                                     ? kPrintConfirmationSheet
+                                     : kNoConfirmationSheet;
     controls.sendSpeed = integerOr(options, kFaxSendSpeedKey, controls.sendSpeed,
                                    kSendSpeedForced4800, kSendSpeedSuperG3);
     controls.resolution = integerOr(options, kFaxResolutionKey, controls.resolution,
@@ -37,7 +37,8 @@ FaxOptionControls ReadFaxOptions(const PropertyValue& options)
             controls.sendLater = true;
             controls.sendTime = QDateTime::fromSecsSinceEpoch(*seconds);
         }
-    if (const PropertyValue* prefix = options.find(kFaxDialingPrefixKey); prefix && prefix->isString()) {
+    if (const PropertyValue* prefix = options.find(kFaxDialingPrefixKey);
+        prefix && prefix->isString()) {
         controls.dialingPrefixOn = true;
         controls.dialingPrefix = prefix->toString();
     }
@@ -66,8 +67,9 @@ void WriteFaxOptions(const FaxOptionControls& controls, const QString& localized
     options->insert(kFaxSendSpeedKey, PropertyValue::integer(controls.sendSpeed));
     options->insert(kFaxResolutionKey, PropertyValue::integer(controls.resolution));
     if (controls.sendLater && controls.sendTime.isValid())
-        options->insert(kFaxSendTimeKey, PropertyValue::integer(controls.sendTime.toSecsSinceEpoch(),
-                                                                NumberType::SInt64));
+        options->insert(
+            kFaxSendTimeKey,
+            PropertyValue::integer(controls.sendTime.toSecsSinceEpoch(), NumberType::SInt64));
     else
         options->remove(kFaxSendTimeKey);
     if (controls.dialingPrefixOn)

@@ -128,8 +128,9 @@ void FaxRecipientList::removeAtIndex(int index)
 
 void FaxRecipientList::remove(const FaxRecipient* recipient)
 {
-    const auto found = std::find_if(m_recipients.begin(), m_recipients.end(),
-                                    [recipient](const auto& each) { return each.get() == recipient; });
+    const auto found =
+        std::find_if(m_recipients.begin(), m_recipients.end(),
+                     [recipient](const auto& each) { return each.get() == recipient; });
     if (found != m_recipients.end())
         m_recipients.erase(found);
 }

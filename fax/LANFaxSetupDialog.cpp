@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -65,6 +66,31 @@ QDateTime suggestedSendTime()
 {
     const qint64 now = QDateTime::currentSecsSinceEpoch();
     return QDateTime::fromSecsSinceEpoch((now / 300 + 13) * 300);
+}
+
+// A contact's picture in the picker: one head and shoulders for a person,
+// three for a group, in the palette's text colour.
+QIcon contactIcon(bool group, const QColor& colour)
+{
+    QPixmap picture(32, 32);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    auto figure = [&painter](qreal x, qreal scale, const QColor& fill) {
+        painter.setBrush(fill);
+        painter.drawEllipse(QPointF(x, 11 * scale + (1 - scale) * 14), 5.5 * scale, 5.5 * scale);
+        painter.drawChord(QRectF(x - 10 * scale, 19 + (1 - scale) * 6, 20 * scale, 22 * scale), 0,
+                          180 * 16);
+    };
+    QColor faint = colour;
+    faint.setAlphaF(0.45);
+    if (group) {
+        figure(9, 0.75, faint);
+        figure(23, 0.75, faint);
+    }
+    figure(16, 1.0, colour);
+    return QIcon(picture);
 }
 
 // The address-book picker: a search field over the book's people (one row
@@ -122,16 +148,14 @@ private:
         m_list->clear();
         for (const AddressBookChoice& choice : m_choices) {
             auto* item = new QListWidgetItem(choice.title + u'\n' + choice.detail, m_list);
-            item->setIcon(style()->standardIcon(choice.group ? QStyle::SP_DirIcon
-                                                             : QStyle::SP_FileIcon));
+            item->setIcon(contactIcon(choice.group, palette().color(QPalette::Text)));
         }
         if (m_list->count() > 0)
             m_list->setCurrentRow(0);
-        m_folder->setText(
-            FormatText(m_model.text(m_choices.empty() && m_search->text().isEmpty()
-                                        ? QStringLiteral("FaxAddressBookEmpty")
-                                        : QStringLiteral("FaxAddressBookIn")),
-                       {QDir::toNativeSeparators(m_model.addressBook().folder())}));
+        m_folder->setText(FormatText(m_model.text(m_choices.empty() && m_search->text().isEmpty()
+                                                      ? QStringLiteral("FaxAddressBookEmpty")
+                                                      : QStringLiteral("FaxAddressBookIn")),
+                                     {QDir::toNativeSeparators(m_model.addressBook().folder())}));
     }
 
     void chooseFolder()
@@ -178,9 +202,9 @@ public:
             {"FaxEmailAddress", "FaxEmailLabel", &FaxRecipient::setEmailAddress},
             {"FaxMailbox", "FaxMailboxLabel", &FaxRecipient::setMailbox},
         };
-        const FaxField values[] = {recipient.firstName(),    recipient.lastName(),
-                                   recipient.faxNumber(),    recipient.organization(),
-                                   recipient.phoneNumber(),  recipient.emailAddress(),
+        const FaxField values[] = {recipient.firstName(),   recipient.lastName(),
+                                   recipient.faxNumber(),   recipient.organization(),
+                                   recipient.phoneNumber(), recipient.emailAddress(),
                                    recipient.mailbox()};
         for (std::size_t i = 0; i < std::size(rows); ++i) {
             auto* edit = lineEdit(QString::fromLatin1(rows[i].name), kMaxFaxFieldLength, this);
@@ -211,8 +235,7 @@ private:
 
 } // namespace
 
-LANFaxSetupDialog::LANFaxSetupDialog(LANFaxSetupModel& model, const Bundle* bundle,
-                                     QWidget* parent)
+LANFaxSetupDialog::LANFaxSetupDialog(LANFaxSetupModel& model, const Bundle* bundle, QWidget* parent)
     : QDialog(parent), m_model(model), m_bundle(bundle)
 {
     setObjectName(QStringLiteral("LANFaxSetup"));
@@ -251,8 +274,8 @@ void LANFaxSetupDialog::buildRecipients(QVBoxLayout* layout)
 
     auto* addressBook = button(m_model.text(QStringLiteral("FaxAddressBookButton")),
                                QStringLiteral("FaxAddressBookButton"), box);
-    m_edit = button(m_model.text(QStringLiteral("FaxEditButton")), QStringLiteral("FaxEditButton"),
-                    box);
+    m_edit =
+        button(m_model.text(QStringLiteral("FaxEditButton")), QStringLiteral("FaxEditButton"), box);
     m_remove = button(m_model.text(QStringLiteral("FaxRemoveButton")),
                       QStringLiteral("FaxRemoveButton"), box);
     m_saveGroup = button(m_model.text(QStringLiteral("FaxSaveGroupButton")),
@@ -266,8 +289,8 @@ void LANFaxSetupDialog::buildRecipients(QVBoxLayout* layout)
     m_typedName->setPlaceholderText(m_model.text(QStringLiteral("FaxTypedNamePlaceholder")));
     m_typedNumber = lineEdit(QStringLiteral("FaxTypedNumber"), kMaxFaxFieldLength, box);
     m_typedNumber->setPlaceholderText(m_model.text(QStringLiteral("FaxTypedNumberPlaceholder")));
-    m_addTyped = button(m_model.text(QStringLiteral("FaxAddButton")),
-                        QStringLiteral("FaxAddTyped"), box);
+    m_addTyped =
+        button(m_model.text(QStringLiteral("FaxAddButton")), QStringLiteral("FaxAddTyped"), box);
     auto* typed = new QHBoxLayout;
     typed->addWidget(new QLabel(m_model.text(QStringLiteral("FaxTypedNameLabel")), box));
     typed->addWidget(m_typedName, 3);
@@ -314,7 +337,10 @@ void LANFaxSetupDialog::buildOptions(QVBoxLayout* layout)
     m_sendTime = new QDateTimeEdit(box);
     m_sendTime->setObjectName(QStringLiteral("FaxSendTime"));
     m_sendTime->setCalendarPopup(true);
-    m_sendTime->setDisplayFormat(QLocale().dateTimeFormat(QLocale::ShortFormat));
+    // Minutes are as fine as a send time needs to be.
+    m_sendTime->setDisplayFormat(
+        QLocale().dateFormat(QLocale::ShortFormat) + u' ' +
+        QLocale().timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss")));
     auto* sendRow = new QHBoxLayout;
     sendRow->addWidget(m_sendNow);
     sendRow->addWidget(m_sendLater);
@@ -386,7 +412,8 @@ void LANFaxSetupDialog::buildOptions(QVBoxLayout* layout)
             [&c](const QString& text) { c.creditCard = text; });
     connect(m_coverNotes, &QPlainTextEdit::textChanged, this,
             [this, &c] { c.coverSheetNotes = m_coverNotes->toPlainText(); });
-    connect(m_promptDuplicate, &QCheckBox::toggled, this, [&c](bool on) { c.promptDuplicate = on; });
+    connect(m_promptDuplicate, &QCheckBox::toggled, this,
+            [&c](bool on) { c.promptDuplicate = on; });
     connect(m_promptRemove, &QCheckBox::toggled, this, [&c](bool on) { c.promptRemove = on; });
 }
 
@@ -395,17 +422,16 @@ void LANFaxSetupDialog::showRecipients()
     m_list->clear();
     for (const FaxRecipientRef& recipient : m_model.recipients().recipients()) {
         QString name = DisplayNameFromRecipient(*recipient);
-        auto* item = new QTreeWidgetItem(
-            m_list, {name, recipient->faxNumber().value_or(QString()),
-                     recipient->organization().value_or(QString())});
+        auto* item = new QTreeWidgetItem(m_list, {name, recipient->faxNumber().value_or(QString()),
+                                                  recipient->organization().value_or(QString())});
         if (recipient->uid())
             item->setToolTip(0, m_model.text(QStringLiteral("FaxFromAddressBook")));
     }
-    m_count->setText(LocalizedFormat(
-        m_bundle,
-        m_model.recipients().count() == 1 ? QStringLiteral("FaxOneRecipient")
-                                          : QStringLiteral("FaxRecipientCount"),
-        {QString::number(m_model.recipients().count())}));
+    m_count->setText(LocalizedFormat(m_bundle,
+                                     m_model.recipients().count() == 1
+                                         ? QStringLiteral("FaxOneRecipient")
+                                         : QStringLiteral("FaxRecipientCount"),
+                                     {QString::number(m_model.recipients().count())}));
     updateEnabling();
 }
 
@@ -489,8 +515,8 @@ void LANFaxSetupDialog::addTyped()
 {
     if (m_typedNumber->text().trimmed().isEmpty())
         return;
-    if (!addChecked(LANFaxSetupModel::recipientFromTypedName(m_typedName->text(),
-                                                             m_typedNumber->text())))
+    if (!addChecked(
+            LANFaxSetupModel::recipientFromTypedName(m_typedName->text(), m_typedNumber->text())))
         return;
     m_typedName->clear();
     m_typedNumber->clear();

@@ -64,15 +64,16 @@ std::optional<Alert> LANFaxSetupModel::checkRecipient(const FaxRecipient& recipi
         return Alert{AlertLevel::Caution, text(QStringLiteral("FaxNoNumberHeader")),
                      text(QStringLiteral("FaxNoNumberMessage"))};
     if (CopyDialingStringFromFaxNumber(number).isEmpty())
-        return Alert{AlertLevel::Caution, text(QStringLiteral("FaxNoNumberHeader")),
-                     LocalizedFormat(m_bundle, QStringLiteral("FaxNothingToDialMessage"), {number})};
+        return Alert{
+            AlertLevel::Caution, text(QStringLiteral("FaxNoNumberHeader")),
+            LocalizedFormat(m_bundle, QStringLiteral("FaxNothingToDialMessage"), {number})};
     const QString dialing = CopyDialingStringFromFaxNumber(activePrefix() + number);
     if (dialing.size() > kMaxDialingStringLength)
-        return Alert{AlertLevel::Caution, text(QStringLiteral("FaxDialingTooLongHeader")),
-                     LocalizedFormat(m_bundle, QStringLiteral("FaxDialingTooLongMessage"),
-                                     {nameOrNumber(recipient),
-                                      QString::number(kMaxDialingStringLength),
-                                      QString::number(dialing.size())})};
+        return Alert{
+            AlertLevel::Caution, text(QStringLiteral("FaxDialingTooLongHeader")),
+            LocalizedFormat(m_bundle, QStringLiteral("FaxDialingTooLongMessage"),
+                            {nameOrNumber(recipient), QString::number(kMaxDialingStringLength),
+                             QString::number(dialing.size())})};
     return std::nullopt;
 }
 
@@ -80,10 +81,10 @@ std::optional<Alert> LANFaxSetupModel::duplicateQuestion(const FaxRecipient& rec
 {
     if (!m_controls.promptDuplicate || !m_recipients.containsRecipient(recipient))
         return std::nullopt;
-    return Alert{AlertLevel::Caution, text(QStringLiteral("FaxDuplicateHeader")),
-                 LocalizedFormat(m_bundle, QStringLiteral("FaxDuplicateMessage"),
-                                 {nameOrNumber(recipient),
-                                  recipient.faxNumber().value_or(QString())})};
+    return Alert{
+        AlertLevel::Caution, text(QStringLiteral("FaxDuplicateHeader")),
+        LocalizedFormat(m_bundle, QStringLiteral("FaxDuplicateMessage"),
+                        {nameOrNumber(recipient), recipient.faxNumber().value_or(QString())})};
 }
 
 std::optional<Alert> LANFaxSetupModel::removeQuestion(int count) const
@@ -133,8 +134,8 @@ std::vector<AddressBookChoice> LANFaxSetupModel::addressBookChoices(const QStrin
             QStringList kinds = fax.types;
             kinds.removeAll(QStringLiteral("fax"));
             kinds.removeAll(QStringLiteral("voice"));
-            const QString label = (kinds.isEmpty() ? QString() : kinds.first() + u' ') +
-                                  QStringLiteral("fax");
+            const QString label =
+                (kinds.isEmpty() ? QString() : kinds.first() + u' ') + QStringLiteral("fax");
             QString title = record->formattedName;
             if (!record->organization.isEmpty() && record->organization != title)
                 title += QStringLiteral(" (") + record->organization + u')';
@@ -150,8 +151,8 @@ LANFaxSetupModel::recipientsForChoice(const AddressBookChoice& choice) const
 {
     auto fromPerson = [](const AddressBookRecord& person, const LabelledValue& fax,
                          const QString& label) {
-        auto recipient = std::make_shared<FaxRecipient>(fieldOf(person.firstName),
-                                                        fieldOf(person.lastName), fieldOf(fax.value));
+        auto recipient = std::make_shared<FaxRecipient>(
+            fieldOf(person.firstName), fieldOf(person.lastName), fieldOf(fax.value));
         recipient->setFaxNumberLabel(fieldOf(label));
         recipient->setOrganization(fieldOf(person.organization));
         for (const LabelledValue& phone : person.phones)
@@ -189,9 +190,9 @@ Alert LANFaxSetupModel::saveAsGroup(const QString& name)
 {
     const Status status = m_recipients.saveAsABGroupWithName(m_book, name.trimmed());
     if (status != kNoError)
-        return {AlertLevel::Stop, text(QStringLiteral("FaxGroupFailedHeader")),
-                LocalizedFormat(m_bundle, QStringLiteral("FaxGroupFailedMessage"),
-                                {m_book.folder()})};
+        return {
+            AlertLevel::Stop, text(QStringLiteral("FaxGroupFailedHeader")),
+            LocalizedFormat(m_bundle, QStringLiteral("FaxGroupFailedMessage"), {m_book.folder()})};
     return {AlertLevel::Note, text(QStringLiteral("FaxGroupSavedHeader")),
             LocalizedFormat(m_bundle, QStringLiteral("FaxGroupSavedMessage"),
                             {name.trimmed(), QString::number(m_recipients.count())})};
@@ -200,17 +201,17 @@ Alert LANFaxSetupModel::saveAsGroup(const QString& name)
 std::optional<Alert> LANFaxSetupModel::checkBeforeOK(const QDateTime& now) const
 {
     if (m_controls.sendLater && (!m_controls.sendTime.isValid() || m_controls.sendTime <= now))
-        return Alert{AlertLevel::Caution, text(QStringLiteral("FaxSendTimePastHeader")),
-                     LocalizedFormat(m_bundle, QStringLiteral("FaxSendTimePastMessage"),
-                                     {QLocale().toString(m_controls.sendTime, QLocale::ShortFormat)})};
+        return Alert{
+            AlertLevel::Caution, text(QStringLiteral("FaxSendTimePastHeader")),
+            LocalizedFormat(m_bundle, QStringLiteral("FaxSendTimePastMessage"),
+                            {QLocale().toString(m_controls.sendTime, QLocale::ShortFormat)})};
     for (const FaxRecipientRef& recipient : m_recipients.recipients())
         if (auto refused = checkRecipient(*recipient))
             return refused;
     return std::nullopt;
 }
 
-LANFaxSetupEnabling LANFaxSetupModel::enabling(int selectedCount,
-                                              const QString& typedNumber) const
+LANFaxSetupEnabling LANFaxSetupModel::enabling(int selectedCount, const QString& typedNumber) const
 {
     LANFaxSetupEnabling enabling;
     enabling.addTyped = !typedNumber.trimmed().isEmpty();

@@ -206,8 +206,8 @@ std::vector<VCard> ParseVCards(const QByteArray& text, int* skipped)
 QByteArray SerializeVCard(const VCard& card)
 {
     QByteArray out = "BEGIN:VCARD\r\n";
-    out += "VERSION:" + (card.version.isEmpty() ? QByteArray("4.0") : card.version.toUtf8()) +
-           "\r\n";
+    out +=
+        "VERSION:" + (card.version.isEmpty() ? QByteArray("4.0") : card.version.toUtf8()) + "\r\n";
     for (const VCardProperty& property : card.properties) {
         QString line = property.name;
         for (const auto& [name, values] : property.parameters) {

@@ -1,5 +1,6 @@
 #include "fax/AddressBook.h"
 #include "fax/FaxRecipient.h"
+#include "fax/LANFaxSetupModel.h"
 #include "fax/VCard.h"
 
 #include <QDir>
@@ -75,7 +76,7 @@ TEST(AddressBookTest, WrittenCardsReadBackEqual)
     AddressBookRecord person;
     person.uid = "urn:uuid:0f0e";
     person.formattedName = "Zoë Ångström, Esq.";
-    person.firstName = "Zoë;\\\nX"; // escapes round trip; edges are trimmed
+    person.firstName = "Zoë;\\\nX";                 // escapes round trip; edges are trimmed
     person.organization = QString(50, QChar(u'é')); // folds inside two-byte sequences
     person.mailbox = "Box 7";
     person.phones = {{"+1 555 0100", {"work", "fax"}}, {"555 0199", {"work"}}};
@@ -142,6 +143,15 @@ TEST(AddressBookTest, GroupsCommitNewMembersAndListThemInOrder)
     EXPECT_EQ(groups.front()->memberUIDs,
               QStringList({*list.recipientAtIndex(0)->uid(), QString("kim-1")}));
     EXPECT_EQ(reread.records().size(), 3u);
+
+    // Picking the group in the setup adds its members, in order.
+    const LANFaxSetupModel setup(nullptr, {}, {}, reread);
+    const auto choices = setup.addressBookChoices("Board");
+    ASSERT_EQ(choices.size(), 1u);
+    const auto members = setup.recipientsForChoice(choices.front());
+    ASSERT_EQ(members.size(), 2u);
+    EXPECT_EQ(members[0]->firstName(), "Ann");
+    EXPECT_EQ(members[1]->uid(), "kim-1");
 
     // A folder that cannot be made stops before any member is committed.
     writeFile(dir.filePath("file"), "");

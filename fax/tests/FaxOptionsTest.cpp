@@ -158,7 +158,8 @@ TEST(FaxOptionsTest, SetupRefusesWhatCannotBeSent)
     // Duplicates are asked about only while the prompt is on.
     const auto again = LANFaxSetupModel::recipientFromTypedName(" Ann  Lee ", "+1 (555) 123-4567");
     EXPECT_TRUE(model.duplicateQuestion(*again));
-    EXPECT_FALSE(model.duplicateQuestion(*LANFaxSetupModel::recipientFromTypedName("Lee, Ann", "1")));
+    EXPECT_FALSE(
+        model.duplicateQuestion(*LANFaxSetupModel::recipientFromTypedName("Lee, Ann", "1")));
     model.controls().promptDuplicate = false;
     EXPECT_FALSE(model.duplicateQuestion(*again));
 

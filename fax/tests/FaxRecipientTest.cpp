@@ -28,7 +28,7 @@ TEST(FaxRecipientTest, ListFindsOnlyRecipientsWithTheSameNamesAndNumber)
         bool found;
     } rows[] = {
         {person(unset, unset, "555-0100"), true},
-        {person("Ann", unset, "555-0100"), false},  // set never equals unset
+        {person("Ann", unset, "555-0100"), false}, // set never equals unset
         {person("Ann", "Smith", "555-0101"), true},
         {person("Ann", "smith", "555-0101"), false}, // case counts
         {person("Ann", "Smith", "5550101"), false},  // no normalising
