@@ -62,12 +62,12 @@ QByteArray AddressBookRecordToVCard(const AddressBookRecord& record)
     VCard card;
     card.version = QStringLiteral("4.0");
     auto& out = card.properties;
-    out.push_back(textProperty(QStringLiteral("UID"), record.uid));
+    out.push_back(textProperty(QStringLiteral("UID"), EscapeVCardText(record.uid)));
     if (record.kind == AddressBookRecord::Kind::Group) {
         out.push_back(textProperty(QStringLiteral("KIND"), QStringLiteral("group")));
         out.push_back(textProperty(QStringLiteral("FN"), EscapeVCardText(record.formattedName)));
         for (const QString& member : record.memberUIDs)
-            out.push_back(textProperty(QStringLiteral("MEMBER"), member));
+            out.push_back(textProperty(QStringLiteral("MEMBER"), EscapeVCardText(member)));
         return SerializeVCard(card);
     }
     out.push_back(textProperty(QStringLiteral("KIND"), QStringLiteral("individual")));
