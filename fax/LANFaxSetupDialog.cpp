@@ -606,4 +606,15 @@ bool RunModalLANFaxSetup(const Bundle* bundle, PropertyValue* faxOptions,
     return true;
 }
 
+bool RunModalLANFaxSetupOnTicketForm(const Bundle* bundle, PropertyValue& faxOptions,
+                                     PropertyValue& faxRecipientList, QWidget* parent)
+{
+    FaxRecipientList recipients;
+    recipients.fromTicket(faxRecipientList);
+    if (!RunModalLANFaxSetup(bundle, &faxOptions, &recipients, parent))
+        return false;
+    faxRecipientList = recipients.toTicket();
+    return true;
+}
+
 } // namespace orvan

@@ -94,4 +94,10 @@ private:
 bool RunModalLANFaxSetup(const Bundle* bundle, PropertyValue* faxOptions,
                          FaxRecipientList* recipients, QWidget* parent = nullptr);
 
+// The same on the list's ticket form (an array of recipient dictionaries), as
+// the Paper/Output panel keeps it: the array is rebuilt from the edited list
+// on OK and left alone on Cancel.
+bool RunModalLANFaxSetupOnTicketForm(const Bundle* bundle, PropertyValue& faxOptions,
+                                     PropertyValue& faxRecipientList, QWidget* parent);
+
 } // namespace orvan

@@ -127,8 +127,9 @@ protected:
 
 TEST_F(LANFaxSetupDialogTest, TypedAndAddressBookRecipientsReachTheTicketWithTheOptions)
 {
+    // The panel keeps the list in its ticket form.
     PropertyValue options = PropertyValue::dictionary();
-    FaxRecipientList recipients;
+    PropertyValue recipients = PropertyValue::array();
 
     whenShown("LANFaxSetup", [this](QWidget* dialog) {
         QTest::keyClicks(control<QLineEdit>(dialog, "FaxTypedName"), "Ann Lee");
@@ -157,7 +158,7 @@ TEST_F(LANFaxSetupDialogTest, TypedAndAddressBookRecipientsReachTheTicketWithThe
         saveScreenshot(dialog, "lan-fax-setup.png");
         click(dialog, "OKButton");
     });
-    ASSERT_TRUE(RunModalLANFaxSetup(m_bundle.get(), &options, &recipients));
+    ASSERT_TRUE(RunModalLANFaxSetupOnTicketForm(m_bundle.get(), options, recipients, nullptr));
     EXPECT_TRUE(m_alerts.empty());
 
     // Print: the panel writes both into the print-settings ticket. The
@@ -165,7 +166,7 @@ TEST_F(LANFaxSetupDialogTest, TypedAndAddressBookRecipientsReachTheTicketWithThe
     // its top-level items); the values after the ticket is saved and read
     // back as the printing side reads it.
     PrintSession session;
-    session.printSettings().setItem(kPanelClient, kFaxRecipientListKey, recipients.toTicket());
+    session.printSettings().setItem(kPanelClient, kFaxRecipientListKey, recipients);
     session.printSettings().setItem(kPanelClient, kFaxOptionsKey, options);
     const PropertyValue* written = session.printSettings().dictionary(kFaxOptionsKey);
     ASSERT_TRUE(written);
