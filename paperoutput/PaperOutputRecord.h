@@ -4,6 +4,8 @@
 // and the print-settings ticket keys it travels under.
 #pragma once
 
+#include "fax/FaxOptions.h"   // kFaxOptionsKey
+#include "fax/FaxRecipient.h" // kFaxRecipientListKey
 #include "settings/PropertyValue.h"
 #include "specialpages/Cover.h"
 #include "specialpages/SpecialPageKeys.h" // the job-level stock and booklet layout keys
@@ -39,8 +41,6 @@ inline const QString kBookletForceNewSizeKey =
     QStringLiteral("com.orvan.print.BookletForceNewSize");
 inline const QString kGutterKey = QStringLiteral("com.orvan.print.Gutter");
 inline const QString kCreepKey = QStringLiteral("com.orvan.print.Creep");
-inline const QString kFaxOptionsKey = QStringLiteral("com.orvan.print.FaxOptions");
-inline const QString kFaxRecipientListKey = QStringLiteral("com.orvan.print.FaxRecipientList");
 inline const QString kJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
 inline const QString kOrientationKey = QStringLiteral("com.apple.print.PageFormat.PMOrientation");
 inline const QString kStockSizeKey = QStringLiteral("Size");
