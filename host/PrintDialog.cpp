@@ -1,14 +1,23 @@
 #include "host/PrintDialog.h"
 
+#include "host/DocumentPreparer.h"
 #include "host/JobSubmission.h"
+#include "host/PageSetupView.h"
+#include "host/PaperSizes.h"
+#include "host/PreviewPane.h"
+#include "host/WatermarkStampSource.h"
+#include "printerdesc/PpdFile.h"
 #include "settings/TicketFile.h"
 #include "shell/CommandEvent.h"
 #include "shell/PDEShell.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -17,11 +26,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace orvan {
 
-std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error)
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder,
+                                         QString* error)
 {
     if (!printer.ppdFile.isEmpty())
         return printer.ppdFile;
@@ -36,18 +48,26 @@ std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QStr
     return FetchQueuePPD(printer.queueName, error);
 }
 
-PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
-                         Options options, QWidget* parent)
+PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin,
+                         std::vector<PrinterEntry> printers, Options options, QWidget* parent)
     : QDialog(parent), m_session(session), m_plugin(plugin), m_printers(std::move(printers)),
-      m_options(std::move(options)), m_printerPopup(new QComboBox(this)), m_copies(new QSpinBox(this)),
-      m_allPages(new QRadioButton(tr("All"), this)), m_pageRange(new QRadioButton(tr("From:"), this)),
-      m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_paneHolder(new QWidget(this)),
-      m_status(new QLabel(this))
+      m_options(std::move(options)), m_printerPopup(new QComboBox(this)),
+      m_copies(new QSpinBox(this)), m_allPages(new QRadioButton(tr("All"), this)),
+      m_pageRange(new QRadioButton(tr("From:"), this)), m_fromPage(new QSpinBox(this)),
+      m_toPage(new QSpinBox(this)), m_paneHolder(new QWidget(this)), m_status(new QLabel(this)),
+      m_pageSetupView(new PageSetupView(m_pageSetup, this)), m_preview(new PreviewPane(this)),
+      m_panelChanged(new QTimer(this))
 {
+    PrinterEntry pdf;
+    pdf.displayName = tr("Save as PDF");
+    pdf.isSample = true; // the panels show the sample printer's choices
+    pdf.savesPdf = true;
+    m_printers.push_back(pdf);
     setObjectName(QStringLiteral("PrintDialog"));
-    setWindowTitle(m_options.files.isEmpty()
-                       ? tr("Print")
-                       : tr("Print \u201C%1\u201D").arg(QFileInfo(m_options.files.first()).fileName()));
+    setWindowTitle(
+        m_options.files.isEmpty()
+            ? tr("Print")
+            : tr("Print \u201C%1\u201D").arg(QFileInfo(m_options.files.first()).fileName()));
     m_printerPopup->setObjectName(QStringLiteral("PrinterPopup"));
     m_copies->setObjectName(QStringLiteral("CopiesField"));
     m_allPages->setObjectName(QStringLiteral("AllPagesButton"));
@@ -94,6 +114,21 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     copies->addStretch(1);
     form->addRow(tr("Copies:"), copies);
     form->addRow(tr("Pages:"), pages);
+    form->addRow(m_pageSetupView);
+    for (QAbstractButton* button :
+         {static_cast<QAbstractButton*>(m_allPages), static_cast<QAbstractButton*>(m_pageRange)})
+        connect(button, &QAbstractButton::toggled, this, &PrintDialog::refreshPreview);
+    for (QSpinBox* box : {m_fromPage, m_toPage})
+        connect(box, &QSpinBox::valueChanged, this, &PrintDialog::refreshPreview);
+    connect(m_pageSetupView, &PageSetupView::changed, this, &PrintDialog::pageSetupChanged);
+    m_panelChanged->setSingleShot(true);
+    m_panelChanged->setInterval(400);
+    connect(m_panelChanged, &QTimer::timeout, this, [this] {
+        if (m_pluginRunning)
+            m_plugin.sync(&m_session, false);
+        refreshPreview();
+    });
+    qApp->installEventFilter(this);
 
     auto* holderLayout = new QVBoxLayout(m_paneHolder);
     holderLayout->setContentsMargins(0, 0, 0, 0);
@@ -107,9 +142,15 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(printButton, &QPushButton::clicked, this, &PrintDialog::print);
 
+    auto* controls = new QVBoxLayout;
+    controls->addLayout(form);
+    controls->addWidget(m_paneHolder, 1);
+    auto* columns = new QHBoxLayout;
+    columns->addWidget(m_preview);
+    columns->addSpacing(12);
+    columns->addLayout(controls, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(form);
-    layout->addWidget(m_paneHolder, 1);
+    layout->addLayout(columns, 1);
     layout->addWidget(m_status);
     layout->addWidget(buttons);
 
@@ -117,6 +158,9 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     m_printerPopup->setCurrentIndex(m_options.initialPrinter);
     choosePrinter(m_options.initialPrinter);
     connect(m_printerPopup, &QComboBox::activated, this, &PrintDialog::choosePrinter);
+    if (!m_options.files.isEmpty())
+        m_preview->setDocument(m_options.files.first());
+    refreshPreview();
 }
 
 PrintDialog::~PrintDialog()
@@ -142,10 +186,12 @@ void PrintDialog::showTicketInControls()
 
 void PrintDialog::writeControlsToTicket()
 {
+    m_pageSetup.writeTo(m_session, jobName());
     if (m_allPages->isChecked())
         WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), 1, kAllPagesLast);
     else
-        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), m_fromPage->value(), m_toPage->value());
+        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), m_fromPage->value(),
+                            m_toPage->value());
 }
 
 bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
@@ -170,7 +216,8 @@ void PrintDialog::startPlugin()
         fail(tr("The printer features could not be started."));
         return;
     }
-    m_pane->setMinimumSize(static_cast<int>(m_plugin.maxWidth()), static_cast<int>(m_plugin.maxHeight()));
+    m_pane->setMinimumSize(static_cast<int>(m_plugin.maxWidth()),
+                           static_cast<int>(m_plugin.maxHeight()));
     m_plugin.initialize(m_pane, &m_session);
     m_plugin.sync(&m_session, true);
     m_plugin.open();
@@ -198,11 +245,87 @@ void PrintDialog::choosePrinter(int index)
     stopPlugin();
     m_currentPrinter = index;
     QString why;
-    if (!attachPrinter(m_printers[static_cast<std::size_t>(index)], &why))
-        m_status->setText(tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
+    const PrinterEntry& printer = m_printers[static_cast<std::size_t>(index)];
+    if (!attachPrinter(printer, &why))
+        m_status->setText(
+            tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
     else
         m_status->clear();
+    offerPapers(printer);
     startPlugin();
+}
+
+void PrintDialog::offerPapers(const PrinterEntry& printer)
+{
+    std::vector<PaperSize> papers;
+    if (!printer.savesPdf) {
+        if (const PpdFilePtr ppd =
+                OpenPPDFile(m_session.currentPrinter().value_or(Printer{}).ppdPath))
+            papers = PapersFromPpd(ppd.get());
+        else if (!printer.queueName.isEmpty())
+            papers = PapersOfQueue(printer.queueName);
+    }
+    if (papers.empty())
+        papers = StandardPapers();
+    m_pageSetup.setPapers(std::move(papers));
+    if (!m_pageSetupRead) { // the first printer: a ticket given to the dialog may hold a page setup
+        m_pageSetup.readFrom(m_session);
+        m_pageSetupRead = true;
+    }
+    m_pageSetupView->showModel();
+    // The panels read the paper, layout and job name from the tickets.
+    m_pageSetup.writeTo(m_session, jobName());
+    refreshPreview();
+}
+
+QString PrintDialog::jobName() const
+{
+    return m_options.files.isEmpty() ? QString() : QFileInfo(m_options.files.first()).fileName();
+}
+
+void PrintDialog::pageSetupChanged()
+{
+    m_pageSetup.writeTo(m_session, jobName());
+    // The panels take the new paper and layout in.
+    if (m_pluginRunning) {
+        m_plugin.sync(&m_session, false);
+        m_plugin.sync(&m_session, true);
+    }
+    refreshPreview();
+}
+
+PreviewSettings PrintDialog::previewSettings() const
+{
+    PreviewSettings settings;
+    settings.setup = m_pageSetup.setup();
+    if (m_pageRange->isChecked()) {
+        settings.firstPage = m_fromPage->value();
+        settings.lastPage = m_toPage->value();
+    }
+    const Ticket& ticket = m_session.printSettings();
+    const QString duplex = ticket.ppdDictionary().find(QStringLiteral("Duplex"))
+                               ? ticket.ppdDictionary().find(QStringLiteral("Duplex"))->toString()
+                               : QString();
+    settings.twoSided =
+        (!duplex.isEmpty() && duplex != QLatin1String("None")) ||
+        ticket.integer(QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")).value_or(1) > 1;
+    settings.watermark = WatermarkStampForSession(m_session, settings.setup.paper.points);
+    return settings;
+}
+
+void PrintDialog::refreshPreview()
+{
+    if (m_preview)
+        m_preview->setSettings(previewSettings());
+}
+
+bool PrintDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // A change in a pane: take its settings in once the user pauses.
+    if ((event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease) &&
+        watched->isWidgetType() && m_paneHolder->isAncestorOf(static_cast<QWidget*>(watched)))
+        m_panelChanged->start();
+    return QDialog::eventFilter(watched, event);
 }
 
 void PrintDialog::fail(const QString& message)
@@ -231,20 +354,89 @@ void PrintDialog::print()
         }
     }
     const PrinterEntry& printer = m_printers[static_cast<std::size_t>(m_currentPrinter)];
-    if (!m_options.files.isEmpty()) {
-        if (printer.isSample) {
-            fail(tr("The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
-                    "or save the job's settings with --save-ticket."));
-            return;
-        }
-        QString why;
-        const QString title = QFileInfo(m_options.files.first()).fileName();
-        if (SubmitJob(printer.queueName, m_options.files, title, JobOptionsFromSession(m_session), &why) == 0) {
-            fail(tr("The job could not be sent to %1: %2").arg(printer.displayName, why));
+    for (const QString& file : m_options.files) {
+        QString message;
+        if (CheckDocument(file, &message) != DocumentProblem::None) {
+            fail(message);
             return;
         }
     }
+    if (printer.savesPdf ? !saveAsPdf() : !submitToQueue(printer))
+        return;
     accept();
+}
+
+bool PrintDialog::saveAsPdf()
+{
+    if (m_options.files.isEmpty()) {
+        fail(tr("There is no document to save as PDF."));
+        return false;
+    }
+    QString path = m_options.pdfPath;
+    if (path.isEmpty()) {
+        const QFileInfo source(m_options.files.first());
+        path = QFileDialog::getSaveFileName(
+            this, tr("Save as PDF"),
+            source.absoluteDir().filePath(source.completeBaseName() + QStringLiteral(".pdf")),
+            tr("PDF files (*.pdf)"));
+        if (path.isEmpty())
+            return false;
+    }
+    const PreviewSettings settings = previewSettings();
+    DocumentPreparation preparation;
+    preparation.firstPage = settings.firstPage;
+    preparation.lastPage = settings.lastPage;
+    preparation.watermark = settings.watermark;
+    preparation.sheets = settings.setup;
+    const PreparationResult result = PrepareDocument(m_options.files.first(), preparation, path);
+    if (!result.ok()) {
+        fail(DocumentProblemText(result.problem, m_options.files.first(), result.detail));
+        return false;
+    }
+    return true;
+}
+
+bool PrintDialog::submitToQueue(const PrinterEntry& printer)
+{
+    if (m_options.files.isEmpty())
+        return true;
+    if (printer.isSample) {
+        fail(tr(
+            "The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
+            "or save the job's settings with --save-ticket."));
+        return false;
+    }
+    // No printer filter applies the watermark: the job gets stamped copies.
+    const std::optional<WatermarkStamp> watermark = previewSettings().watermark;
+    QTemporaryDir copies;
+    QStringList files;
+    for (const QString& file : m_options.files) {
+        if (!watermark) {
+            files << file;
+            continue;
+        }
+        DocumentPreparation preparation;
+        preparation.watermark = watermark;
+        std::tie(preparation.firstPage, preparation.lastPage) =
+            PageRangeFromTicket(m_session.printSettings());
+        const QString copy = copies.filePath(QStringLiteral("%1.pdf").arg(files.size() + 1));
+        const PreparationResult result = PrepareDocument(file, preparation, copy);
+        if (!result.ok()) {
+            fail(DocumentProblemText(result.problem, file, result.detail));
+            return false;
+        }
+        files << copy;
+    }
+    JobOptions options = JobOptionsFromSession(m_session);
+    for (auto& option : PageSetupJobOptions(m_pageSetup.setup()))
+        options.push_back(std::move(option));
+    QString why;
+    const QString title = QFileInfo(m_options.files.first()).fileName();
+    if (SubmitJob(printer.queueName, files, title, options, &why) == 0) {
+        fail(tr("The job could not be sent to %1: %2").arg(printer.displayName, why));
+        return false;
+    }
+    return true;
 }
 
 void PrintDialog::done(int result)

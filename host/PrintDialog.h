@@ -1,9 +1,12 @@
-// The Print dialog: printer pop-up, copies and pages, the plug-in's pane,
-// Cancel and Print. It owns no job settings itself: everything lives in the
-// print session's tickets, which the plug-in reads and writes on Sync.
+// The Print dialog: printer pop-up (with "Save as PDF"), copies and pages,
+// the page setup, the preview, the plug-in's pane, Cancel and Print. It owns no job settings
+// itself: everything lives in the print session's tickets, which the plug-in reads and writes on
+// Sync.
 #pragma once
 
+#include "host/PageSetupModel.h"
 #include "host/PluginHost.h"
+#include "host/PreviewRenderer.h"
 #include "host/PrinterList.h"
 
 #include <QDialog>
@@ -15,28 +18,38 @@ class QComboBox;
 class QLabel;
 class QRadioButton;
 class QSpinBox;
+class QTimer;
 
 namespace orvan {
+
+class PageSetupView;
+class PreviewPane;
 
 class PrintDialog : public QDialog
 {
     Q_OBJECT
 public:
-    struct Options {
+    struct Options
+    {
         QStringList files;
         QString saveTicketPath; // written on Print when set
         int initialPrinter = 0; // index into printers
+        QString pdfPath;        // where "Save as PDF" writes; asked for when empty
     };
 
-    PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers, Options options,
-                QWidget* parent = nullptr);
+    PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
+                Options options, QWidget* parent = nullptr);
     ~PrintDialog() override;
 
     // The message of the last failure to print, for callers and tests.
     QString lastError() const { return m_lastError; }
 
+    // The settings the preview draws with, from the controls and tickets.
+    PreviewSettings previewSettings() const;
+
 protected:
     void done(int result) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void choosePrinter(int index);
@@ -47,6 +60,12 @@ private:
     void showTicketInControls();
     void writeControlsToTicket();
     void fail(const QString& message);
+    void offerPapers(const PrinterEntry& printer);
+    void pageSetupChanged();
+    QString jobName() const;
+    void refreshPreview();
+    bool saveAsPdf();
+    bool submitToQueue(const PrinterEntry& printer);
 
     PrintSession& m_session;
     PluginHost& m_plugin;
@@ -66,10 +85,16 @@ private:
     QWidget* m_paneHolder;
     QWidget* m_pane = nullptr;
     QLabel* m_status;
+    PageSetupModel m_pageSetup;
+    PageSetupView* m_pageSetupView;
+    PreviewPane* m_preview;
+    QTimer* m_panelChanged; // the panes' settings are taken in after a pause
+    bool m_pageSetupRead = false;
 };
 
 // The PPD location of a printer entry: its own PPD file when it has one, the
 // queue's PPD from CUPS, or the sample printer's PPD in the plug-in's resources.
-std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error);
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder,
+                                         QString* error);
 
 } // namespace orvan

@@ -10,12 +10,14 @@
 
 namespace orvan {
 
-struct PrinterEntry {
+struct PrinterEntry
+{
     QString displayName;
     QString queueName; // empty for the sample printer
     QString ppdFile;   // a PPD file given without a queue; empty otherwise
     bool isDefault = false;
     bool isSample = false;
+    bool savesPdf = false; // "Save as PDF": writes a file instead of printing
 };
 
 inline const QString kSamplePrinterName = QStringLiteral("Orvan Meridian 5000 (sample)");

@@ -3,15 +3,20 @@
 // private cupsd.
 #include "host/PrintDialog.h"
 #include "host/JobSubmission.h"
+#include "host/PreviewPane.h"
 #include "host/tests/HostTestSupport.h"
+#include "host/tests/PdfFixtures.h"
+#include "settings/PageFormat.h"
 #include "settings/TicketFile.h"
 #include "shell/ShellTicketItems.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTimer>
@@ -72,6 +77,26 @@ protected:
         field<QRadioButton>(dialog, "PageRangeButton")->setChecked(true);
         field<QSpinBox>(dialog, "FromPageField")->setValue(from);
         field<QSpinBox>(dialog, "ToPageField")->setValue(to);
+    }
+
+    // Picks the item with that text in a pop-up, as a user would.
+    static void choose(PrintDialog& dialog, const char* popup, const QString& text)
+    {
+        auto* box = field<QComboBox>(dialog, popup);
+        const int index = box->findText(text);
+        ASSERT_GE(index, 0) << popup << " has no " << text.toStdString();
+        box->setCurrentIndex(index);
+        emit box->activated(index);
+    }
+
+    // Waits until the preview has shown a sheet or found the document unprintable.
+    static void waitForPreview(PrintDialog& dialog)
+    {
+        auto* pane = field<PreviewPane>(dialog, "PreviewPane");
+        QSignalSpy checked(pane, &PreviewPane::documentChecked);
+        if (pane->isShowingPages() || pane->problem() != DocumentProblem::None ||
+            checked.wait(5000))
+            QApplication::processEvents();
     }
 
     // Clicks Print; the texts of the error boxes it showed, each closed at once.
@@ -227,6 +252,52 @@ TEST_F(PrintDialogTest, PrintOnACupsQueueAfterSwitchingPrintersSendsTheJob)
     for (const auto& [keyword, choice] : saved.printSettings().ppdDictionary().asDictionary())
         EXPECT_EQ(status.value(keyword).compare(choice.toString(), Qt::CaseInsensitive), 0)
             << keyword.toStdString() << " = " << status.value(keyword).toStdString();
+}
+
+// The page setup goes into the tickets where the panels read it (paper
+// rectangle, N-up), and the preview lays the sheets out accordingly.
+TEST_F(PrintDialogTest, PageSetupReachesTheTicketsAndThePreview)
+{
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 5));
+    const auto dialog = makeDialog({SamplePrinter()}, {{file}});
+    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(612, 792));
+    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), false);
+    EXPECT_EQ(m_session.printSettings().string(kJobNameKey), "report.pdf");
+
+    choose(*dialog, "PaperSizePopup", "A4");
+    choose(*dialog, "OrientationPopup", "Landscape");
+    choose(*dialog, "PagesPerSheetPopup", "2");
+    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(595, 842));
+    EXPECT_EQ(m_session.pageFormat().integer(kOrientationKey, NumberType::SInt32),
+              kLandscapeOrientation);
+    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), true);
+    EXPECT_TRUE(field<QComboBox>(*dialog, "PageOrderPopup")->isEnabled());
+
+    auto* pane = field<PreviewPane>(*dialog, "PreviewPane");
+    for (int i = 0; i < 50 && pane->spreadCount() != 3; ++i)
+        QSignalSpy(pane, &PreviewPane::spreadShown).wait(200);
+    EXPECT_TRUE(pane->isShowingPages());
+    EXPECT_EQ(field<QLabel>(*dialog, "SheetPositionLabel")->text(), "1 of 3");
+}
+
+// A file that cannot be printed: the preview area says why, and Print is
+// refused with the same reason.
+TEST_F(PrintDialogTest, UnprintableFileIsExplainedInThePreviewAndRefused)
+{
+    const QString file = m_home.filePath("notes.txt");
+    QFile text(file);
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("not a document\n") > 0);
+    text.close();
+    const auto dialog = makeDialog({SamplePrinter()}, {{file}});
+    waitForPreview(*dialog);
+    auto* message = field<QLabel>(*dialog, "PreviewMessage");
+    EXPECT_TRUE(message->isVisible());
+    EXPECT_TRUE(message->text().contains("notes.txt"));
+    const QStringList boxes = clickPrint(*dialog);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes.first(), message->text());
+    EXPECT_TRUE(dialog->isVisible());
 }
 
 } // namespace
