@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -311,6 +312,20 @@ PreviewSettings PrintDialog::previewSettings() const
         ticket.integer(QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")).value_or(1) > 1;
     settings.watermark = WatermarkStampForSession(m_session, settings.setup.paper.points);
     return settings;
+}
+
+bool PrintDialog::waitForPreview(int milliseconds)
+{
+    const auto ready = [this] {
+        return m_preview->isShowingPages() || m_preview->problem() != DocumentProblem::None;
+    };
+    QEventLoop loop;
+    connect(m_preview, &PreviewPane::spreadShown, &loop, &QEventLoop::quit);
+    connect(m_preview, &PreviewPane::documentChecked, &loop, &QEventLoop::quit);
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    if (!ready())
+        loop.exec();
+    return ready();
 }
 
 void PrintDialog::refreshPreview()

@@ -46,6 +46,9 @@ public:
 
     // The settings the preview draws with, from the controls and tickets.
     PreviewSettings previewSettings() const;
+    // Runs the event loop until the preview shows a sheet or its problem, at
+    // most `milliseconds` (for screenshots); true when it did.
+    bool waitForPreview(int milliseconds);
 
 protected:
     void done(int result) override;

@@ -21,8 +21,9 @@ inline const QString kJobWatermarkFirstPageOnlyKey =
 // The layer and page choice of the ticket (a missing option is blend, a
 // missing page choice all pages); nullopt when no watermark is selected.
 std::optional<WatermarkStamp> WatermarkChoiceFromSession(const PrintSession& session);
-// The choice with the watermark drawn on a transparent page of `pageSize`
-// points; nullopt when none is selected or it cannot be drawn.
+// The choice with the watermark, read from the user's watermark file, drawn
+// on a transparent page of `pageSize` points; nullopt when none is selected,
+// it is not in the file or it cannot be drawn (a missing font or picture).
 std::optional<WatermarkStamp> WatermarkStampForSession(const PrintSession& session,
                                                        QSizeF pageSize);
 

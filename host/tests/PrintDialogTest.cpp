@@ -4,14 +4,17 @@
 #include "host/PrintDialog.h"
 #include "host/JobSubmission.h"
 #include "host/PreviewPane.h"
+#include "host/WatermarkStampSource.h"
 #include "host/tests/HostTestSupport.h"
 #include "host/tests/PdfFixtures.h"
 #include "settings/PageFormat.h"
 #include "settings/TicketFile.h"
 #include "shell/ShellTicketItems.h"
+#include "watermark/WatermarkStore.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -20,6 +23,8 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTimer>
+
+#include <poppler-qt6.h>
 
 using namespace orvan;
 using namespace orvan::testing;
@@ -97,6 +102,37 @@ protected:
         if (pane->isShowingPages() || pane->problem() != DocumentProblem::None ||
             checked.wait(5000))
             QApplication::processEvents();
+    }
+
+    // The user's watermark "CONFIDENTIAL", selected for the job as the
+    // Booklet/Watermark panel writes it: in the foreground, on all pages.
+    void selectWatermark()
+    {
+        ASSERT_TRUE(QDir(m_home.path()).mkpath("shared"));
+        _WatermarkData record;
+        record.isText = 1;
+        record.textString.assignIfFits(std::string_view("CONFIDENTIAL"));
+        record.fontName.assignIfFits(std::string_view("DejaVuSans"));
+        record.fontSize = 60;
+        record.density = 40;
+        record.wellColorRed = 1;
+        record.wellColorAlpha = 1;
+        ASSERT_TRUE(saveWatermarkData(kWatermarkFile, record));
+        saveWatermarkList(kWatermarkFile, {"CONFIDENTIAL"});
+        Ticket& ticket = m_session.printSettings();
+        ticket.setItem(kPanelClient, kJobWatermarkKey, "confidential");
+        ticket.setItem(kPanelClient, kJobWatermarkOptionKey,
+                       PropertyValue::integer(3, NumberType::SInt32));
+        ticket.setItem(kPanelClient, kJobWatermarkFirstPageOnlyKey,
+                       PropertyValue::integer(0, NumberType::SInt32));
+    }
+
+    // A4 landscape, two pages a sheet, as a user picks them.
+    static void chooseA4LandscapeTwoUp(PrintDialog& dialog)
+    {
+        choose(dialog, "PaperSizePopup", "A4");
+        choose(dialog, "OrientationPopup", "Landscape");
+        choose(dialog, "PagesPerSheetPopup", "2");
     }
 
     // Clicks Print; the texts of the error boxes it showed, each closed at once.
@@ -298,6 +334,37 @@ TEST_F(PrintDialogTest, UnprintableFileIsExplainedInThePreviewAndRefused)
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes.first(), message->text());
     EXPECT_TRUE(dialog->isVisible());
+}
+
+// What a user checks a watermark with before using paper: the saved PDF has
+// half the pages, on landscape A4, each page carrying the watermark; the
+// user's own file stays as it was.
+TEST_F(PrintDialogTest, SaveAsPdfWritesTheSheetsWithTheirWatermark)
+{
+    ASSERT_NO_FATAL_FAILURE(selectWatermark());
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 4));
+    QFile original(file);
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray before = original.readAll();
+    PrintDialog::Options options{{file}};
+    options.pdfPath = m_home.filePath("saved.pdf");
+    const auto dialog = makeDialog({SamplePrinter()}, options);
+    choose(*dialog, "PrinterPopup", "Save as PDF");
+    chooseA4LandscapeTwoUp(*dialog);
+    EXPECT_EQ(clickPrint(*dialog), QStringList());
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+
+    const auto saved = Poppler::Document::load(options.pdfPath);
+    ASSERT_TRUE(saved);
+    ASSERT_EQ(saved->numPages(), 2);
+    for (int sheet = 0; sheet < 2; ++sheet) {
+        const QSizeF size = saved->page(sheet)->pageSizeF();
+        EXPECT_TRUE(std::abs(size.width() - 842) < 1 && std::abs(size.height() - 595) < 1) << sheet;
+        EXPECT_EQ(saved->page(sheet)->text(QRectF()).count("CONFIDENTIAL"), 2) << sheet;
+    }
+    ASSERT_TRUE(original.seek(0));
+    EXPECT_EQ(original.readAll(), before);
 }
 
 } // namespace
