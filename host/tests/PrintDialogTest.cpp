@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -365,6 +366,44 @@ TEST_F(PrintDialogTest, SaveAsPdfWritesTheSheetsWithTheirWatermark)
     }
     ASSERT_TRUE(original.seek(0));
     EXPECT_EQ(original.readAll(), before);
+}
+
+// The same settings on a CUPS queue: the page setup travels as job
+// attributes, the watermark in the document the queue receives.
+TEST_F(PrintDialogTest, PrintOnACupsQueueSendsThePageSetupAndTheWatermark)
+{
+    std::unique_ptr<CupsServer> server;
+    ASSERT_NO_FATAL_FAILURE(StartCupsWithSampleQueue(server));
+    if (!server)
+        return;
+    ASSERT_NO_FATAL_FAILURE(selectWatermark());
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 4));
+    {
+        const auto dialog =
+            makeDialog({{.displayName = "Meridian", .queueName = "Meridian"}}, {{file}});
+        chooseA4LandscapeTwoUp(*dialog);
+        EXPECT_EQ(clickPrint(*dialog), QStringList());
+        EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    }
+    const JobAttributes status = server->waitForJob(1);
+    ASSERT_EQ(status.value("job-state"), "completed") << server->errorLog().toStdString();
+    EXPECT_EQ(status.value("media"), "A4");
+    EXPECT_EQ(status.value("orientation-requested"), "landscape");
+    // The queue's output drawn by Ghostscript: the watermark is the only red
+    // on the sheet, once for each page.
+    const QString sheet = m_home.filePath("sheet.png");
+    QProcess gs;
+    gs.start("gs", {"-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-sDEVICE=png16m", "-r20",
+                    "-dLastPage=1", "-sOutputFile=" + sheet, server->outputFile("Meridian")});
+    ASSERT_TRUE(gs.waitForFinished(60000));
+    const QImage image(sheet);
+    ASSERT_FALSE(image.isNull());
+    int red = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            red += qRed(image.pixel(x, y)) - qGreen(image.pixel(x, y)) > 60;
+    EXPECT_GT(red, 20);
 }
 
 } // namespace
