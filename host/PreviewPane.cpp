@@ -106,9 +106,9 @@ void PreviewPane::request()
     const bool reopen = std::exchange(m_reopen, false);
     const PreviewSettings settings = m_settings;
     const int spread = m_spread;
-    const int height = m_image->height() - 8;
+    const QSize box = m_image->size() - QSize(8, 8);
     const std::atomic<quint64>* latest = &m_latest;
-    QMetaObject::invokeMethod(worker, [this, worker, id, path, reopen, settings, spread, height,
+    QMetaObject::invokeMethod(worker, [this, worker, id, path, reopen, settings, spread, box,
                                        latest] {
         if (reopen || worker->openPath != path) {
             worker->openPath = path;
@@ -121,10 +121,7 @@ void PreviewPane::request()
         if (worker->problem == DocumentProblem::None) {
             count = worker->renderer.spreadCount(settings);
             const int shown = std::clamp(spread, 0, std::max(0, count - 1));
-            image = worker->renderer.renderSpread(settings, shown, height);
-            if (!image.isNull() && image.width() > kPreviewWidth - 8)
-                image = worker->renderer.renderSpread(settings, shown,
-                                                      height * (kPreviewWidth - 8) / image.width());
+            image = worker->renderer.renderSpread(settings, shown, box);
         }
         QMetaObject::invokeMethod(this,
                                   [=, problem = worker->problem, message = worker->message, this] {

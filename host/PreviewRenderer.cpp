@@ -104,9 +104,9 @@ void PreviewRenderer::loadWatermark(const PreviewSettings& settings)
         preparePoppler(*m_watermark);
 }
 
-QImage PreviewRenderer::renderSpread(const PreviewSettings& settings, int index, int height)
+QImage PreviewRenderer::renderSpread(const PreviewSettings& settings, int index, QSize box)
 {
-    if (!m_document || height <= 0)
+    if (!m_document || box.isEmpty())
         return {};
     const auto all = sheets(settings);
     const int perSpread = settings.twoSided ? 2 : 1;
@@ -117,7 +117,10 @@ QImage PreviewRenderer::renderSpread(const PreviewSettings& settings, int index,
     const std::vector<int> pages =
         SelectedPages(pageCount(), settings.firstPage, settings.lastPage);
     const QSizeF sheet = settings.setup.sheetSize();
-    const double pixelsPerPoint = height / sheet.height();
+    const double spreadWidth = sheet.width() * (perSpread + (settings.twoSided ? kSideGap : 0));
+    const double pixelsPerPoint =
+        std::min(box.width() / spreadWidth, box.height() / sheet.height());
+    const int height = std::max(1, static_cast<int>(sheet.height() * pixelsPerPoint));
     const double sheetWidth = sheet.width() * pixelsPerPoint;
     const double gap = settings.twoSided ? sheetWidth * kSideGap : 0;
     QImage image(static_cast<int>(std::ceil(perSpread * sheetWidth + gap)), height,

@@ -46,9 +46,9 @@ public:
 
     // Spreads: one sheet each, or the two sides of each sheet of paper.
     int spreadCount(const PreviewSettings& settings) const;
-    // Spread `index` drawn `height` pixels high; a null image when there is
-    // no such spread.
-    QImage renderSpread(const PreviewSettings& settings, int index, int height);
+    // Spread `index` drawn as large as fits in `box` pixels; a null image
+    // when there is no such spread.
+    QImage renderSpread(const PreviewSettings& settings, int index, QSize box);
 
 private:
     std::vector<std::vector<PagePlacement>> sheets(const PreviewSettings& settings) const;

@@ -18,7 +18,7 @@ namespace {
 
 using namespace orvan::testing;
 
-constexpr int kPreviewHeight = 292;
+const QSize kPreviewBox(292, 292);
 
 const QString& TwentyPages()
 {
@@ -44,7 +44,7 @@ void BM_FirstSheetRendered(benchmark::State& state)
     for (auto _ : state) {
         PreviewRenderer renderer;
         renderer.open(TwentyPages(), nullptr);
-        benchmark::DoNotOptimize(renderer.renderSpread(settings, 0, kPreviewHeight));
+        benchmark::DoNotOptimize(renderer.renderSpread(settings, 0, kPreviewBox));
     }
     state.SetLabel("open + first 2-up sheet with a watermark");
 }

@@ -78,9 +78,9 @@ TEST_F(DocumentPreparerTest, WatermarkLayersOverAndUnderThePage)
         ASSERT_EQ(preview.open(path("in.pdf"), nullptr), DocumentProblem::None);
         PreviewSettings settings{PageSetup{{"A4", "A4", kA4Points}}};
         settings.watermark = preparation.watermark;
-        const QImage shown = preview.renderSpread(settings, 0, 400);
-        EXPECT_EQ(isRed(shown.pixel(shown.width() / 4, 200)), c.onBlack);
-        EXPECT_EQ(isRed(shown.pixel(shown.width() * 3 / 4, 200)), c.onEmpty);
+        const QImage shown = preview.renderSpread(settings, 0, QSize(400, 400));
+        EXPECT_EQ(isRed(shown.pixel(shown.width() / 4, shown.height() / 2)), c.onBlack);
+        EXPECT_EQ(isRed(shown.pixel(shown.width() * 3 / 4, shown.height() / 2)), c.onEmpty);
     }
 }
 
@@ -111,7 +111,7 @@ TEST_F(DocumentPreparerTest, SavedPdfHasThePagesLaidOutOnSheets)
     EXPECT_EQ(preview.spreadCount(settings), 3);
     settings.twoSided = true;
     EXPECT_EQ(preview.spreadCount(settings), 2);
-    const QImage spread = preview.renderSpread(settings, 0, 200);
+    const QImage spread = preview.renderSpread(settings, 0, QSize(1000, 200));
     EXPECT_GT(spread.width(), 2 * spread.height());
 }
 
@@ -174,7 +174,7 @@ TEST_F(DocumentPreparerTest, FilesThatCannotBePrintedAreRefusedWithTheReason)
         PreviewRenderer preview;
         EXPECT_EQ(preview.open(path(c.file), &previewed), c.problem);
         EXPECT_TRUE(previewed.contains(c.says)) << previewed.toStdString();
-        EXPECT_TRUE(preview.renderSpread(PreviewSettings{}, 0, 100).isNull());
+        EXPECT_TRUE(preview.renderSpread(PreviewSettings{}, 0, QSize(100, 100)).isNull());
         EXPECT_EQ(PrepareDocument(path(c.file), DocumentPreparation{}, path("out.pdf")).problem,
                   c.problem);
         EXPECT_FALSE(QFile::exists(path("out.pdf")));
