@@ -1,5 +1,5 @@
 // The Print dialog: printer pop-up (with "Save as PDF"), copies and pages,
-// the page setup, the preview, the plug-in's pane, Cancel and Print. It owns no job settings
+// the page setup, the preview, the plug-in's panes, Cancel and Print. It owns no job settings
 // itself: everything lives in the print session's tickets, which the plug-in reads and writes on
 // Sync.
 #pragma once
@@ -8,6 +8,7 @@
 #include "host/PluginHost.h"
 #include "host/PreviewRenderer.h"
 #include "host/PrinterList.h"
+#include "host/TemporaryFile.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -19,6 +20,7 @@ class QLabel;
 class QRadioButton;
 class QSpinBox;
 class QTimer;
+class QStackedWidget;
 
 namespace orvan {
 
@@ -44,6 +46,10 @@ public:
     // The message of the last failure to print, for callers and tests.
     QString lastError() const { return m_lastError; }
 
+    // Shows the plug-in's pane at index (0 = the shell's pane), as the pane
+    // pop-up does: the pane leaving the screen writes its values to the
+    // tickets, the one coming reads them.
+    void showPane(int index);
     // The settings the preview draws with, from the controls and tickets.
     PreviewSettings previewSettings() const;
     // Runs the event loop until the preview shows a sheet or its problem, at
@@ -74,7 +80,7 @@ private:
     PluginHost& m_plugin;
     std::vector<PrinterEntry> m_printers;
     Options m_options;
-    QString m_fetchedPpd; // temporary PPD fetched from CUPS, removed on close
+    TemporaryFile m_fetchedPpd; // a queue's PPD fetched from CUPS
     QString m_lastError;
     int m_currentPrinter = -1;
     bool m_pluginRunning = false;
@@ -85,8 +91,9 @@ private:
     QRadioButton* m_pageRange;
     QSpinBox* m_fromPage;
     QSpinBox* m_toPage;
-    QWidget* m_paneHolder;
-    QWidget* m_pane = nullptr;
+    QComboBox* m_panePopup;
+    QStackedWidget* m_paneStack;
+    int m_currentPane = 0;
     QLabel* m_status;
     PageSetupModel m_pageSetup;
     PageSetupView* m_pageSetupView;
