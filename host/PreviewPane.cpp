@@ -41,6 +41,7 @@ PreviewPane::PreviewPane(QWidget* parent)
     m_message->setWordWrap(true);
     m_message->setFixedSize(kPreviewWidth, kPreviewHeight);
     m_message->setFrameShape(QFrame::StyledPanel);
+    m_message->setMargin(16);
     m_message->hide();
     m_previous->setArrowType(Qt::LeftArrow);
     m_next->setArrowType(Qt::RightArrow);
@@ -166,6 +167,8 @@ void PreviewPane::showSpread(int delta)
         m_spread = wanted;
         request();
     }
+    for (QWidget* navigation : {static_cast<QWidget*>(m_previous), static_cast<QWidget*>(m_next)})
+        navigation->setVisible(m_spreadCount > 0);
     m_previous->setEnabled(m_spread > 0);
     m_next->setEnabled(m_spread + 1 < m_spreadCount);
     m_position->setText(m_spreadCount > 0 ? tr("%1 of %2").arg(m_spread + 1).arg(m_spreadCount)
