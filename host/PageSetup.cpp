@@ -85,6 +85,8 @@ PageSetup ReadPageSetup(const PrintSession& session, const std::vector<PaperSize
         setup.paper = *named;
     else if (!papers.empty())
         setup.paper = papers.front();
+    else if (const auto size = PaperSizeFromPageFormat(pageFormat))
+        setup.paper = PaperSize{paperName, paperName, *size};
     if (ticketInteger(pageFormat, kOrientationKey, kPortraitOrientation) == kLandscapeOrientation)
         setup.orientation = Orientation::Landscape;
 

@@ -67,8 +67,9 @@ struct PageSetup
 // job name. Client: the printing manager.
 void WritePageSetup(PrintSession& session, const PageSetup& setup, const QString& jobName = {});
 // The page setup of the session's tickets; the paper is looked up by name
-// among `papers` (first one when absent or unknown), every other field
-// falls back to its default when absent or out of range.
+// among `papers` (first one when absent or unknown; without papers, the
+// tickets' paper as it is), every other field falls back to its default
+// when absent or out of range.
 PageSetup ReadPageSetup(const PrintSession& session, const std::vector<PaperSize>& papers);
 
 // The page setup as CUPS job options: "media", "orientation-requested",

@@ -4,6 +4,7 @@
 // and the print-settings ticket keys it travels under.
 #pragma once
 
+#include "settings/PageFormat.h" // the job name and orientation keys
 #include "settings/PropertyValue.h"
 #include "specialpages/Cover.h"
 #include "stock/Stock.h"
@@ -42,8 +43,6 @@ inline const QString kGutterKey = QStringLiteral("com.orvan.print.Gutter");
 inline const QString kCreepKey = QStringLiteral("com.orvan.print.Creep");
 inline const QString kFaxOptionsKey = QStringLiteral("com.orvan.print.FaxOptions");
 inline const QString kFaxRecipientListKey = QStringLiteral("com.orvan.print.FaxRecipientList");
-inline const QString kJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
-inline const QString kOrientationKey = QStringLiteral("com.apple.print.PageFormat.PMOrientation");
 inline const QString kStockSizeKey = QStringLiteral("Size");
 
 // Keys of the job-type dictionary.

@@ -42,6 +42,7 @@ TEST(PageSetupTickets, WrittenAsThePanelsReadThemAndReadBack)
         EXPECT_EQ(session.printSettings().boolean(kLayoutNUpKey), c.nUp);
         EXPECT_EQ(session.printSettings().string(kJobNameKey), "report.pdf");
         EXPECT_EQ(ReadPageSetup(session, {kLetter, kA4}), c.setup);
+        EXPECT_EQ(ReadPageSetup(session, {}).paper, c.setup.paper); // a run without a printer's list
     }
 }
 
