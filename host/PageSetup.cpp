@@ -1,11 +1,9 @@
 #include "host/PageSetup.h"
 
-#include "host/JobSubmission.h"
 #include "host/SheetLayout.h"
 #include "settings/PageFormat.h"
 #include "settings/PrintSession.h"
-
-#include <cups/cups.h>
+#include "submission/CopiesAndPages.h"
 
 #include <algorithm>
 
@@ -13,32 +11,12 @@ namespace orvan {
 
 namespace {
 
-struct PageOrderName
-{
-    PageOrder order;
-    const char* layout;
-};
-constexpr PageOrderName kPageOrderNames[] = {
-    {PageOrder::LeftToRightTopToBottom, "lrtb"},
-    {PageOrder::RightToLeftTopToBottom, "rltb"},
-    {PageOrder::TopToBottomLeftToRight, "tblr"},
-    {PageOrder::TopToBottomRightToLeft, "tbrl"},
-};
-
 std::int32_t ticketInteger(const Ticket& ticket, const QString& key, std::int32_t fallback)
 {
     return static_cast<std::int32_t>(ticket.integer(key, NumberType::SInt32).value_or(fallback));
 }
 
 } // namespace
-
-QString PageOrderLayoutName(PageOrder order)
-{
-    for (const PageOrderName& row : kPageOrderNames)
-        if (row.order == order)
-            return QString::fromLatin1(row.layout);
-    return QStringLiteral("lrtb");
-}
 
 QSizeF PageSetup::sheetSize() const
 {
@@ -99,50 +77,12 @@ PageSetup ReadPageSetup(const PrintSession& session, const std::vector<PaperSize
             setup.pagesPerSheet = count;
     }
     const std::int32_t order = ticketInteger(settings, kLayoutDirectionKey, 1);
-    for (const PageOrderName& row : kPageOrderNames)
-        if (static_cast<std::int32_t>(row.order) == order)
-            setup.order = row.order;
+    if (order >= static_cast<std::int32_t>(PageOrder::LeftToRightTopToBottom) &&
+        order <= static_cast<std::int32_t>(PageOrder::TopToBottomRightToLeft))
+        setup.order = static_cast<PageOrder>(order);
     setup.collate = settings.boolean(kCopyCollateKey).value_or(true);
     setup.reverse = settings.boolean(kReverseOrderKey).value_or(false);
     return setup;
-}
-
-std::vector<std::pair<QString, QString>> PageSetupJobOptions(const PageSetup& setup)
-{
-    std::vector<std::pair<QString, QString>> options;
-    if (!setup.paper.name.isEmpty())
-        options.emplace_back(QStringLiteral("media"), setup.paper.name);
-    options.emplace_back(QStringLiteral("orientation-requested"),
-                         setup.orientation == Orientation::Landscape ? QStringLiteral("4")
-                                                                     : QStringLiteral("3"));
-    options.emplace_back(QStringLiteral("number-up"), QString::number(setup.pagesPerSheet));
-    if (setup.pagesPerSheet > 1)
-        options.emplace_back(QStringLiteral("number-up-layout"), PageOrderLayoutName(setup.order));
-    options.emplace_back(QStringLiteral("multiple-document-handling"),
-                         setup.collate ? QStringLiteral("separate-documents-collated-copies")
-                                       : QStringLiteral("separate-documents-uncollated-copies"));
-    options.emplace_back(QStringLiteral("outputorder"),
-                         setup.reverse ? QStringLiteral("reverse") : QStringLiteral("normal"));
-    return options;
-}
-
-void AddPageSetupAttributes(ipp_t* request, const PageSetup& setup)
-{
-    if (!request)
-        return;
-    if (!setup.paper.name.isEmpty())
-        ippAddString(request, IPP_TAG_JOB, IPP_TAG_KEYWORD, "media", nullptr,
-                     setup.paper.name.toUtf8().constData());
-    ippAddInteger(request, IPP_TAG_JOB, IPP_TAG_ENUM, "orientation-requested",
-                  setup.orientation == Orientation::Landscape ? IPP_ORIENT_LANDSCAPE
-                                                              : IPP_ORIENT_PORTRAIT);
-    ippAddInteger(request, IPP_TAG_JOB, IPP_TAG_INTEGER, "number-up", setup.pagesPerSheet);
-    ippAddString(request, IPP_TAG_JOB, IPP_TAG_KEYWORD, "multiple-document-handling", nullptr,
-                 setup.collate ? "separate-documents-collated-copies"
-                               : "separate-documents-uncollated-copies");
-    if (setup.reverse)
-        ippAddString(request, IPP_TAG_JOB, IPP_TAG_KEYWORD, "page-delivery", nullptr,
-                     "reverse-order-face-down");
 }
 
 } // namespace orvan

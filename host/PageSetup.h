@@ -1,6 +1,6 @@
 // The host's page setup: paper, orientation, pages per sheet and their order,
 // collation and output order. Read from and written to the session's tickets
-// (where the panels read them) and turned into CUPS options / IPP attributes.
+// (where the panels read them, and the job's attributes are made from them).
 #pragma once
 
 #include <QSizeF>
@@ -11,8 +11,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-
-typedef struct _ipp_s ipp_t;
 
 namespace orvan {
 
@@ -35,8 +33,7 @@ enum class Orientation : std::int32_t
     Landscape = 2
 };
 
-// The order in which the pages fill a sheet; the text is the CUPS
-// "number-up-layout" value.
+// The order in which the pages fill a sheet (the ticket's layout direction).
 enum class PageOrder : std::int32_t
 {
     LeftToRightTopToBottom = 1,
@@ -44,7 +41,6 @@ enum class PageOrder : std::int32_t
     TopToBottomLeftToRight = 3,
     TopToBottomRightToLeft = 4,
 };
-QString PageOrderLayoutName(PageOrder order);
 
 inline constexpr std::array<int, 6> kPagesPerSheetChoices{1, 2, 4, 6, 9, 16};
 
@@ -71,14 +67,5 @@ void WritePageSetup(PrintSession& session, const PageSetup& setup, const QString
 // tickets' paper as it is), every other field falls back to its default
 // when absent or out of range.
 PageSetup ReadPageSetup(const PrintSession& session, const std::vector<PaperSize>& papers);
-
-// The page setup as CUPS job options: "media", "orientation-requested",
-// "number-up" (with "number-up-layout" above 1), "multiple-document-handling"
-// and "outputorder". CUPS turns them into the IPP job attributes.
-std::vector<std::pair<QString, QString>> PageSetupJobOptions(const PageSetup& setup);
-// The same as IPP job attributes added to a request (for printers reached
-// without CUPS options): "media", "orientation-requested", "number-up",
-// "multiple-document-handling", "page-delivery".
-void AddPageSetupAttributes(ipp_t* request, const PageSetup& setup);
 
 } // namespace orvan

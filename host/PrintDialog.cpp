@@ -7,6 +7,8 @@
 #include "host/PreviewPane.h"
 #include "host/WatermarkStampSource.h"
 #include "printerdesc/PpdFile.h"
+#include "host/PresetPopup.h"
+#include "host/Presets.h"
 #include "settings/TicketFile.h"
 #include "shell/CommandEvent.h"
 #include "shell/PDEShell.h"
@@ -16,12 +18,14 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -32,14 +36,16 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <cstdio>
+
 namespace orvan {
 
-std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder,
-                                         QString* error)
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error)
 {
     if (!printer.ppdFile.isEmpty())
         return printer.ppdFile;
-    if (printer.isSample) {
+    // An IPP printer given by its address is described by the sample printer.
+    if (printer.isSample || !printer.printerUri.isEmpty()) {
         const QString path = pluginFolder + QStringLiteral("/Resources/") + kSamplePpdResource;
         if (QFileInfo::exists(path))
             return path;
@@ -50,13 +56,13 @@ std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QStr
     return FetchQueuePPD(printer.queueName, error);
 }
 
-PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin,
-                         std::vector<PrinterEntry> printers, Options options, QWidget* parent)
+PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
+                         Options options, QWidget* parent)
     : QDialog(parent), m_session(session), m_plugin(plugin), m_printers(std::move(printers)),
-      m_options(std::move(options)), m_printerPopup(new QComboBox(this)),
-      m_copies(new QSpinBox(this)), m_allPages(new QRadioButton(tr("All"), this)),
-      m_pageRange(new QRadioButton(tr("From:"), this)), m_fromPage(new QSpinBox(this)),
-      m_toPage(new QSpinBox(this)), m_panePopup(new QComboBox(this)),
+      m_options(std::move(options)), m_printerPopup(new QComboBox(this)), m_presets(new PresetPopup(this)),
+      m_copies(new QSpinBox(this)),
+      m_allPages(new QRadioButton(tr("All"), this)), m_pageRange(new QRadioButton(tr("From:"), this)),
+      m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_panePopup(new QComboBox(this)),
       m_paneStack(new QStackedWidget(this)), m_status(new QLabel(this)),
       m_pageSetupView(new PageSetupView(m_pageSetup, this)), m_preview(new PreviewPane(this)),
       m_panelChanged(new QTimer(this))
@@ -67,10 +73,9 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin,
     pdf.savesPdf = true;
     m_printers.push_back(pdf);
     setObjectName(QStringLiteral("PrintDialog"));
-    setWindowTitle(
-        m_options.files.isEmpty()
-            ? tr("Print")
-            : tr("Print \u201C%1\u201D").arg(QFileInfo(m_options.files.first()).fileName()));
+    setWindowTitle(m_options.files.isEmpty()
+                       ? tr("Print")
+                       : tr("Print \u201C%1\u201D").arg(QFileInfo(m_options.files.first()).fileName()));
     m_printerPopup->setObjectName(QStringLiteral("PrinterPopup"));
     m_copies->setObjectName(QStringLiteral("CopiesField"));
     m_allPages->setObjectName(QStringLiteral("AllPagesButton"));
@@ -112,6 +117,7 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin,
     auto* form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignRight);
     form->addRow(tr("Printer:"), m_printerPopup);
+    form->addRow(tr("Presets:"), m_presets);
     m_copies->setMinimumWidth(80);
     auto* copies = new QHBoxLayout;
     copies->addWidget(m_copies);
@@ -166,10 +172,24 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin,
     layout->addWidget(m_status);
     layout->addWidget(buttons);
 
+    if (!m_options.initialPreset.isEmpty()) {
+        QString why;
+        if (ApplyPreset(m_options.initialPreset, m_session, &why))
+            m_presets->reload(m_options.initialPreset);
+        else
+            m_lastError = why;
+    }
     showTicketInControls();
     m_printerPopup->setCurrentIndex(m_options.initialPrinter);
     choosePrinter(m_options.initialPrinter);
+    if (!m_lastError.isEmpty())
+        m_status->setText(
+            tr("%1; the settings shown are those the dialog started with.").arg(m_lastError));
     connect(m_printerPopup, &QComboBox::activated, this, &PrintDialog::choosePrinter);
+    connect(m_presets, &PresetPopup::defaultsChosen, this,
+            [this] { replaceSettings(Ticket(), Ticket()); });
+    connect(m_presets, &PresetPopup::presetChosen, this, &PrintDialog::applyPreset);
+    connect(m_presets, &PresetPopup::saveChosen, this, &PrintDialog::askPresetName);
     if (!m_options.files.isEmpty())
         m_preview->setDocument(m_options.files.first());
     refreshPreview();
@@ -200,14 +220,13 @@ void PrintDialog::writeControlsToTicket()
     if (m_allPages->isChecked())
         WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), 1, kAllPagesLast);
     else
-        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), m_fromPage->value(),
-                            m_toPage->value());
+        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), m_fromPage->value(), m_toPage->value());
 }
 
 bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
 {
     const auto ppd = PpdPathForPrinter(printer, m_plugin.folder(), error);
-    if (!printer.isSample)
+    if (!printer.queueName.isEmpty())
         m_fetchedPpd = TemporaryFile(ppd.value_or(QString()));
     // A queue without a PPD still prints; the panels then show their defaults.
     m_session.setCurrentPrinter(Printer{printer.queueName, ppd.value_or(QString())});
@@ -224,14 +243,12 @@ void PrintDialog::startPlugin()
     QSize largest;
     for (const auto& pane : m_plugin.panes()) {
         auto* widget = new QWidget(m_paneStack);
-        widget->setObjectName(pane->isShell() ? QStringLiteral("PluginPane")
-                                              : pane->exportedName());
+        widget->setObjectName(pane->isShell() ? QStringLiteral("PluginPane") : pane->exportedName());
         m_paneStack->addWidget(widget);
         parents.push_back(widget);
         if (pane->running()) {
             m_panePopup->addItem(pane->title(), static_cast<int>(parents.size() - 1));
-            largest = largest.expandedTo(
-                QSize(static_cast<int>(pane->maxWidth()), static_cast<int>(pane->maxHeight())));
+            largest = largest.expandedTo(QSize(static_cast<int>(pane->maxWidth()), static_cast<int>(pane->maxHeight())));
         }
     }
     m_paneStack->setMinimumSize(largest);
@@ -262,8 +279,7 @@ void PrintDialog::stopPlugin()
 void PrintDialog::showPane(int index)
 {
     const auto& panes = m_plugin.panes();
-    if (!m_pluginRunning || index == m_currentPane || index < 0 ||
-        index >= static_cast<int>(panes.size()))
+    if (!m_pluginRunning || index == m_currentPane || index < 0 || index >= static_cast<int>(panes.size()))
         return;
     panes[static_cast<std::size_t>(m_currentPane)]->sync(&m_session, false);
     panes[static_cast<std::size_t>(index)]->sync(&m_session, true);
@@ -284,8 +300,7 @@ void PrintDialog::choosePrinter(int index)
     QString why;
     const PrinterEntry& printer = m_printers[static_cast<std::size_t>(index)];
     if (!attachPrinter(printer, &why))
-        m_status->setText(
-            tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
+        m_status->setText(tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
     else
         m_status->clear();
     offerPapers(printer);
@@ -379,12 +394,63 @@ bool PrintDialog::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
+
 void PrintDialog::fail(const QString& message)
 {
     m_lastError = message;
     QMessageBox box(QMessageBox::Warning, tr("Cannot Print"), message, QMessageBox::Ok, this);
     box.setObjectName(QStringLiteral("PrintErrorBox"));
     box.exec();
+}
+
+void PrintDialog::replaceSettings(const Ticket& printSettings, const Ticket& pageFormat)
+{
+    stopPlugin();
+    m_session.printSettings() = printSettings;
+    m_session.pageFormat() = pageFormat;
+    showTicketInControls();
+    m_pageSetup.readFrom(m_session);
+    m_pageSetupView->showModel();
+    m_pageSetup.writeTo(m_session, jobName());
+    startPlugin();
+    refreshPreview();
+}
+
+void PrintDialog::applyPreset(const QString& name)
+{
+    PrintSession preset;
+    QString why;
+    if (!ApplyPreset(name, preset, &why)) {
+        m_presets->showCurrent();
+        fail(tr("The preset could not be used: %1").arg(why));
+        return;
+    }
+    replaceSettings(preset.printSettings(), preset.pageFormat());
+    m_presets->reload(name);
+}
+
+bool PrintDialog::savePreset(const QString& name)
+{
+    writeControlsToTicket();
+    if (m_pluginRunning)
+        m_plugin.sync(&m_session, false);
+    QString why;
+    if (!SavePreset(name, m_session, &why)) {
+        fail(tr("The settings could not be saved as a preset: %1").arg(why));
+        return false;
+    }
+    m_presets->reload(name);
+    return true;
+}
+
+void PrintDialog::askPresetName()
+{
+    QInputDialog ask(this);
+    ask.setObjectName(QStringLiteral("PresetNameDialog"));
+    ask.setWindowTitle(tr("Save Settings as Preset"));
+    ask.setLabelText(tr("Preset name:"));
+    if (ask.exec() == QDialog::Accepted)
+        savePreset(ask.textValue());
 }
 
 void PrintDialog::print()
@@ -412,8 +478,30 @@ void PrintDialog::print()
             return;
         }
     }
-    if (printer.savesPdf ? !saveAsPdf() : !submitToQueue(printer))
+    if (printer.savesPdf) {
+        if (saveAsPdf())
+            accept();
         return;
+    }
+    if (!m_options.files.isEmpty()) {
+        if (printer.queueName.isEmpty() && printer.printerUri.isEmpty()) {
+            fail(tr("The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
+                    "or save the job's settings with --save-ticket."));
+            return;
+        }
+        // No printer filter applies the watermark: the job gets stamped copies.
+        QTemporaryDir copies;
+        QStringList files;
+        if (!stampedCopies(copies, &files))
+            return;
+        const submission::SubmissionResult sent = SubmitSession(m_session, printer, files);
+        for (const QString& notice : sent.notices)
+            std::fprintf(stderr, "orvan-print: warning: %s\n", notice.toLocal8Bit().constData());
+        if (!sent.error.isEmpty()) {
+            fail(tr("The job could not be sent to %1: %2").arg(printer.displayName, sent.error));
+            return;
+        }
+    }
     accept();
 }
 
@@ -447,45 +535,27 @@ bool PrintDialog::saveAsPdf()
     return true;
 }
 
-bool PrintDialog::submitToQueue(const PrinterEntry& printer)
+bool PrintDialog::stampedCopies(const QTemporaryDir& folder, QStringList* files)
 {
-    if (m_options.files.isEmpty())
-        return true;
-    if (printer.isSample) {
-        fail(tr(
-            "The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
-            "or save the job's settings with --save-ticket."));
-        return false;
-    }
-    // No printer filter applies the watermark: the job gets stamped copies.
     const std::optional<WatermarkStamp> watermark = previewSettings().watermark;
-    QTemporaryDir copies;
-    QStringList files;
     for (const QString& file : m_options.files) {
         if (!watermark) {
-            files << file;
+            *files << file;
             continue;
         }
         DocumentPreparation preparation;
         preparation.watermark = watermark;
         std::tie(preparation.firstPage, preparation.lastPage) =
             PageRangeFromTicket(m_session.printSettings());
-        const QString copy = copies.filePath(QStringLiteral("%1.pdf").arg(files.size() + 1));
+        // The copy keeps the file's name, which names the job.
+        const QString copy = folder.filePath(QStringLiteral("%1/%2").arg(files->size()).arg(QFileInfo(file).fileName()));
+        QDir().mkpath(QFileInfo(copy).path());
         const PreparationResult result = PrepareDocument(file, preparation, copy);
         if (!result.ok()) {
             fail(DocumentProblemText(result.problem, file, result.detail));
             return false;
         }
-        files << copy;
-    }
-    JobOptions options = JobOptionsFromSession(m_session);
-    for (auto& option : PageSetupJobOptions(m_pageSetup.setup()))
-        options.push_back(std::move(option));
-    QString why;
-    const QString title = QFileInfo(m_options.files.first()).fileName();
-    if (SubmitJob(printer.queueName, files, title, options, &why) == 0) {
-        fail(tr("The job could not be sent to %1: %2").arg(printer.displayName, why));
-        return false;
+        *files << copy;
     }
     return true;
 }

@@ -1,7 +1,6 @@
 // The Print dialog: printer pop-up (with "Save as PDF"), copies and pages,
-// the page setup, the preview, the plug-in's panes, Cancel and Print. It owns no job settings
-// itself: everything lives in the print session's tickets, which the plug-in reads and writes on
-// Sync.
+// the page setup, the preview, the plug-in's panes, Cancel and Print. It owns no job settings itself: everything lives in the
+// print session's tickets, which the plug-in reads and writes on Sync.
 #pragma once
 
 #include "host/PageSetupModel.h"
@@ -16,9 +15,13 @@
 #include <vector>
 
 class QComboBox;
+namespace orvan {
+class PresetPopup;
+}
 class QLabel;
 class QRadioButton;
 class QSpinBox;
+class QTemporaryDir;
 class QTimer;
 class QStackedWidget;
 
@@ -31,20 +34,22 @@ class PrintDialog : public QDialog
 {
     Q_OBJECT
 public:
-    struct Options
-    {
+    struct Options {
         QStringList files;
         QString saveTicketPath; // written on Print when set
         int initialPrinter = 0; // index into printers
         QString pdfPath;        // where "Save as PDF" writes; asked for when empty
+        QString initialPreset;  // applied before the plug-in starts; a failure shows in the dialog
     };
 
-    PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
-                Options options, QWidget* parent = nullptr);
+    PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers, Options options,
+                QWidget* parent = nullptr);
     ~PrintDialog() override;
 
     // The message of the last failure to print, for callers and tests.
     QString lastError() const { return m_lastError; }
+    // Saves the settings as shown as a preset; false after telling the user why.
+    bool savePreset(const QString& name);
 
     // Shows the plug-in's pane at index (0 = the shell's pane), as the pane
     // pop-up does: the pane leaving the screen writes its values to the
@@ -74,7 +79,13 @@ private:
     QString jobName() const;
     void refreshPreview();
     bool saveAsPdf();
-    bool submitToQueue(const PrinterEntry& printer);
+    // The files as the job sends them: copies with the watermark stamped on
+    // them, in `folder`, when one is selected; else the files themselves.
+    bool stampedCopies(const QTemporaryDir& folder, QStringList* files);
+    // Restarts the plug-in on other tickets (a preset, the printer's defaults).
+    void replaceSettings(const Ticket& printSettings, const Ticket& pageFormat);
+    void applyPreset(const QString& name);
+    void askPresetName();
 
     PrintSession& m_session;
     PluginHost& m_plugin;
@@ -86,6 +97,7 @@ private:
     bool m_pluginRunning = false;
 
     QComboBox* m_printerPopup;
+    PresetPopup* m_presets;
     QSpinBox* m_copies;
     QRadioButton* m_allPages;
     QRadioButton* m_pageRange;
@@ -104,7 +116,6 @@ private:
 
 // The PPD location of a printer entry: its own PPD file when it has one, the
 // queue's PPD from CUPS, or the sample printer's PPD in the plug-in's resources.
-std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder,
-                                         QString* error);
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error);
 
 } // namespace orvan

@@ -37,4 +37,11 @@ enum class WatermarkDrawn
 WatermarkDrawn DrawWatermark(cairo_t* context, QSizeF pageSize, _WatermarkData& record,
                              double alpha = 1.0, const QString& saveToFile = {});
 
+// The opacity a page draws `record` at: density / 100 for a text watermark
+// (isText 1), else 1.0 (pictures, and pages without a watermark, are opaque).
+inline double WatermarkAlpha(const _WatermarkData& record)
+{
+    return record.isText == 1 ? record.density / 100.0 : 1.0;
+}
+
 } // namespace orvan

@@ -44,8 +44,7 @@ bool RenderWatermarkDocument(_WatermarkData& record, QSizeF pageSize, MemoryDocu
         cairo_set_source_rgba(context.get(), 255.0, 255.0, 255.0, 1.0);
         cairo_rectangle(context.get(), 0, 0, pageSize.width(), pageSize.height());
         cairo_fill(context.get());
-        const double alpha = record.isText == 1 ? record.density / 100.0 : 1.0;
-        DrawWatermark(context.get(), pageSize, record, alpha, watermarkFile);
+        DrawWatermark(context.get(), pageSize, record, WatermarkAlpha(record), watermarkFile);
     }
     cairo_surface_finish(surface.get());
     record.glyphs.reset();

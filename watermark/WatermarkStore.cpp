@@ -9,6 +9,7 @@
 #include <QFileDevice>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -252,7 +253,12 @@ bool saveWatermarkData(const QString& file, const _WatermarkData& record)
     int code = 0;
     std::optional<PropertyValue> dictionary = dictionaryForUpdate(readContent(file), &code);
     if (dictionary) {
-        dictionary->insert(WatermarkKey(record), WatermarkDictionary(record));
+        PropertyValue entry = WatermarkDictionary(record);
+        // A redraw that changed nothing needs no write (and no wait for the disk).
+        if (const PropertyValue* stored = dictionary->find(WatermarkKey(record));
+            stored && *stored == entry)
+            return true;
+        dictionary->insert(WatermarkKey(record), std::move(entry));
         if (WritePropertyListFile(WatermarkFilePath(file), *dictionary, &code))
             return true;
     }

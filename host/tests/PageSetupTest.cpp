@@ -1,5 +1,5 @@
 // The page setup without a display: its ticket items as the panels read
-// them, the job options, the papers of a PPD and of IPP media names, and
+// them, the papers of a PPD and of IPP media names, and
 // where pages land on a sheet.
 #include "host/PageSetupModel.h"
 #include "host/PaperSizes.h"
@@ -42,7 +42,8 @@ TEST(PageSetupTickets, WrittenAsThePanelsReadThemAndReadBack)
         EXPECT_EQ(session.printSettings().boolean(kLayoutNUpKey), c.nUp);
         EXPECT_EQ(session.printSettings().string(kJobNameKey), "report.pdf");
         EXPECT_EQ(ReadPageSetup(session, {kLetter, kA4}), c.setup);
-        EXPECT_EQ(ReadPageSetup(session, {}).paper, c.setup.paper); // a run without a printer's list
+        EXPECT_EQ(ReadPageSetup(session, {}).paper,
+                  c.setup.paper); // a run without a printer's list
     }
 }
 
@@ -63,25 +64,6 @@ TEST(PageSetupTickets, UnknownOrMalformedItemsFallBack)
     EXPECT_EQ(read.orientation, Orientation::Portrait);
     EXPECT_EQ(read.pagesPerSheet, 1);
     EXPECT_FALSE(PaperSizeFromPageFormat(session.pageFormat()));
-}
-
-TEST(PageSetupJob, OptionsForCups)
-{
-    using Options = std::vector<std::pair<QString, QString>>;
-    EXPECT_EQ(PageSetupJobOptions(
-                  {kA4, Orientation::Landscape, 2, PageOrder::TopToBottomLeftToRight, false, true}),
-              (Options{{"media", "A4"},
-                       {"orientation-requested", "4"},
-                       {"number-up", "2"},
-                       {"number-up-layout", "tblr"},
-                       {"multiple-document-handling", "separate-documents-uncollated-copies"},
-                       {"outputorder", "reverse"}}));
-    EXPECT_EQ(PageSetupJobOptions({kLetter}),
-              (Options{{"media", "Letter"},
-                       {"orientation-requested", "3"},
-                       {"number-up", "1"},
-                       {"multiple-document-handling", "separate-documents-collated-copies"},
-                       {"outputorder", "normal"}}));
 }
 
 TEST(PageSetupPapers, FromThePpdAndFromMediaNamesDefaultFirst)
