@@ -201,6 +201,8 @@ int main(int argc, char** argv)
             emit tabs->tabBarClicked(line->tab - 1);
             tabs->setCurrentIndex(line->tab - 1);
         }
+        if (!line->files.isEmpty())
+            dialog.waitForPreview(5000);
         QCoreApplication::processEvents();
         if (!dialog.grab().save(line->screenshotPath, "PNG"))
             return runtimeError(QStringLiteral("cannot write %1").arg(line->screenshotPath));

@@ -4,8 +4,9 @@
 // and the print-settings ticket keys it travels under.
 #pragma once
 
-#include "fax/FaxOptions.h"   // kFaxOptionsKey
-#include "fax/FaxRecipient.h" // kFaxRecipientListKey
+#include "fax/FaxOptions.h"        // kFaxOptionsKey
+#include "fax/FaxRecipient.h"      // kFaxRecipientListKey
+#include "settings/PageFormat.h" // the job name and orientation keys
 #include "settings/PropertyValue.h"
 #include "specialpages/Cover.h"
 #include "specialpages/SpecialPageKeys.h" // the job-level stock and booklet layout keys
@@ -41,8 +42,6 @@ inline const QString kBookletForceNewSizeKey =
     QStringLiteral("com.orvan.print.BookletForceNewSize");
 inline const QString kGutterKey = QStringLiteral("com.orvan.print.Gutter");
 inline const QString kCreepKey = QStringLiteral("com.orvan.print.Creep");
-inline const QString kJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
-inline const QString kOrientationKey = QStringLiteral("com.apple.print.PageFormat.PMOrientation");
 inline const QString kStockSizeKey = QStringLiteral("Size");
 
 // Keys of the job-type dictionary.
