@@ -36,7 +36,8 @@ BookletWatermarkView::BookletWatermarkView(BookletWatermarkModel& model, const B
                                            QWidget* parent)
     : QWidget(parent), m_model(model), m_bundle(bundle), m_watermarkPopup(new QComboBox(this)),
       m_optionsButton(new QToolButton(this)), m_optionsMenu(new QMenu(this)),
-      m_preview(new QLabel(this)), m_bookletButton(new QPushButton(this))
+      m_optionsText(new QLabel(this)), m_preview(new QLabel(this)),
+      m_bookletButton(new QPushButton(this))
 {
     setObjectName(QStringLiteral("BookletWatermarkPanel"));
 
@@ -73,7 +74,10 @@ BookletWatermarkView::BookletWatermarkView(BookletWatermarkModel& model, const B
     controls->addWidget(label, 0, 0, Qt::AlignRight);
     controls->addWidget(m_watermarkPopup, 0, 1);
     controls->addWidget(m_optionsButton, 1, 1, Qt::AlignLeft);
-    controls->setRowStretch(2, 1);
+    m_optionsText->setObjectName(QStringLiteral("WatermarkOptionsText"));
+    m_optionsText->setWordWrap(true);
+    controls->addWidget(m_optionsText, 2, 1);
+    controls->setRowStretch(3, 1);
     auto* watermarkLayout = new QHBoxLayout(watermarkGroup);
     watermarkLayout->addLayout(controls, 1);
     watermarkLayout->addWidget(m_preview, 0, Qt::AlignTop);
@@ -111,8 +115,14 @@ void BookletWatermarkView::showModel()
         m_watermarkPopup->setCurrentIndex(m_model.selectedItem() - 1);
     }
     const QList<QAction*> actions = m_optionsMenu->actions();
-    for (int i = 0; i < actions.size(); ++i)
+    QStringList marked;
+    for (int i = 0; i < actions.size(); ++i) {
         actions[i]->setChecked(m_model.isMarked(i + 1));
+        if (m_model.isMarked(i + 1))
+            marked << actions[i]->text();
+    }
+    m_optionsText->setText(marked.join(QStringLiteral("\n")));
+    m_optionsText->setEnabled(!m_model.selectedName().isEmpty());
     if (m_shownPreview != m_model.previewVersion()) {
         m_shownPreview = m_model.previewVersion();
         m_preview->setPixmap(

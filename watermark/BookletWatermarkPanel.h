@@ -48,6 +48,7 @@ private:
     QComboBox* m_watermarkPopup;
     QToolButton* m_optionsButton;
     QMenu* m_optionsMenu;
+    QLabel* m_optionsText; // the marked options, so they show without the menu
     QLabel* m_preview;
     QPushButton* m_bookletButton;
     std::uint64_t m_shownPreview = ~std::uint64_t(0);

@@ -7,8 +7,7 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QPushButton>
-#include <QRadioButton>
+#include <QLineEdit>
 #include <QTimer>
 #include <QWidget>
 
@@ -54,7 +53,13 @@ int main(int argc, char** argv)
     _WatermarkData text;
     text.paperWidth = 612;
     text.paperHeight = 792;
-    Shoot(bundle, text, out + "/watermark-editor-text.png", [](QDialog&) {});
+    Shoot(bundle, text, out + "/watermark-editor-text.png", [](QDialog& dialog) {
+        // As if typed: the field's edit signal reaches the editor.
+        if (auto* field = dialog.findChild<QLineEdit*>("WatermarkTextField")) {
+            field->setText(QStringLiteral("Internal"));
+            emit field->textEdited(field->text());
+        }
+    });
 
     _WatermarkData image = text;
     image.filePath.assignIfFits(QStringView(picture));
