@@ -256,13 +256,11 @@ void BookletWatermarkModel::syncFromTicket(const Ticket& ticket)
 void BookletWatermarkModel::appendSummary(const Bundle* bundle, PropertyValue* titles,
                                           PropertyValue* values) const
 {
-    const MenuItem* item = m_watermarkMenu.item(m_selectedItem);
-    if (!item)
+    // A job without a watermark adds nothing to the summary.
+    const QString name = selectedName();
+    if (name.isEmpty())
         return;
-    AppendSummaryPair(titles, values, SummaryTitleFromLabel(bundle, kWatermarkLabelKey),
-                      item->text);
-    if (selectedName().isEmpty())
-        return;
+    AppendSummaryPair(titles, values, SummaryTitleFromLabel(bundle, kWatermarkLabelKey), name);
     for (const MenuItem& option : m_optionsMenu.items())
         if (!option.separator &&
             (option.referenceValue == m_option || option.referenceValue == m_pageChoice))

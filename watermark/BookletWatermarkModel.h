@@ -132,6 +132,7 @@ public:
     Status syncToTicket(Ticket& printSettings);
     void syncFromTicket(const Ticket& printSettings);
 
+    // The selected watermark and its two options; nothing without one.
     void appendSummary(const Bundle* bundle, PropertyValue* titles, PropertyValue* values) const;
 
 private:

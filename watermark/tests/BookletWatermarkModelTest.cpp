@@ -71,6 +71,17 @@ TEST_F(BookletWatermarkModelTest, MenuHoldsTheSavedWatermarksBetweenNoneAndTheSe
     for (int item = 1; item <= model.optionsMenu().count(); ++item)
         marks.push_back(model.isMarked(item));
     EXPECT_EQ(marks, std::vector<bool>({true, false, false, false, false, true}));
+
+    // The summary names a chosen watermark and its options, else nothing.
+    PropertyValue titles, values;
+    model.appendSummary(m_bundle.get(), &titles, &values);
+    EXPECT_TRUE(values.isNull());
+    model.chooseWatermarkItem(2);
+    model.appendSummary(m_bundle.get(), &titles, &values);
+    QStringList texts;
+    for (const PropertyValue& value : values.asArray())
+        texts << value.toString();
+    EXPECT_EQ(texts, QStringList({"Draft", "Background", "Print on First Page Only"}));
 }
 
 TEST_F(BookletWatermarkModelTest, ReadsTheTicket)
