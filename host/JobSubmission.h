@@ -16,6 +16,8 @@ namespace orvan {
 inline const QString kCopiesKey = QStringLiteral("com.apple.print.PrintSettings.PMCopies");
 inline const QString kFirstPageKey = QStringLiteral("com.apple.print.PrintSettings.PMFirstPage");
 inline const QString kLastPageKey = QStringLiteral("com.apple.print.PrintSettings.PMLastPage");
+// The job's name; the dialog names a job after its first document.
+inline const QString kJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
 inline const QString kPrintingManagerClient = QStringLiteral("com.apple.printingmanager");
 // The last page of "all pages".
 inline constexpr int kAllPagesLast = 2147483647;

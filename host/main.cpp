@@ -1,5 +1,6 @@
 // orvan-print: the Print dialog for Orvan printers, and its headless forms.
 #include "host/HostCommandLine.h"
+#include "host/JobSubmission.h"
 #include "host/PluginHost.h"
 #include "host/PrintDialog.h"
 #include "host/PrinterList.h"
@@ -129,6 +130,12 @@ int main(int argc, char** argv)
     PrintSession session;
     if (!line->ticketIn.isEmpty() && !loadTicketFile(line->ticketIn, session, &why))
         return usageError(why);
+
+    // The job takes its first document's name before the panels first read
+    // the ticket, in the dialog and headless alike.
+    if (!line->files.isEmpty())
+        session.printSettings().setItem(kPrintingManagerClient, kJobNameKey,
+                                        QFileInfo(line->files.first()).fileName());
 
     const QString pluginFolder = PluginHost::locatePluginFolder();
     std::unique_ptr<PluginHost> plugin = PluginHost::load(pluginFolder, &why);

@@ -21,6 +21,8 @@ inline constexpr Status kEventNotHandled = -9874;
 inline constexpr Status kTicketItemNotFound = -9589;
 // A ticket item is locked and cannot be replaced or removed.
 inline constexpr Status kTicketItemLocked = -9590;
+// A preference file could not be made or written.
+inline constexpr Status kPreferencesNotStored = -1;
 // Query-interface for an interface the object does not offer.
 inline constexpr Status kNoSuchInterface = static_cast<Status>(0x80000004u);
 

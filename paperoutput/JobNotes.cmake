@@ -1,0 +1,26 @@
+# Job notes: the model and the defaults file in the core library, the pane
+# and the defaults dialog in the widgets library, the exported entry function
+# in the plug-in module.
+target_sources(orvan_core PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/JobNotesModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/JobNotesPreferences.cpp
+)
+target_sources(orvan_widgets PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/JobNotesView.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/JobNotesPreferencesDialog.cpp
+)
+
+# Draws the panel's two icons into resources/bundle/images/; run by hand when
+# they change (cmake --build <dir> --target orvan_job_notes_pictures).
+add_executable(orvan_draw_job_notes_pictures EXCLUDE_FROM_ALL ${CMAKE_CURRENT_LIST_DIR}/tools/DrawJobNotesPictures.cpp)
+target_link_libraries(orvan_draw_job_notes_pictures PRIVATE Qt6::Gui)
+add_custom_target(orvan_job_notes_pictures
+    COMMAND orvan_draw_job_notes_pictures ${CMAKE_SOURCE_DIR}/resources/bundle/images
+    DEPENDS orvan_draw_job_notes_pictures VERBATIM)
+
+if(ORVAN_BUILD_TESTS)
+    find_package(Qt6 REQUIRED COMPONENTS Test)
+    orvan_add_test(NAME jobnotes_model_tests
+        SOURCES ${CMAKE_CURRENT_LIST_DIR}/tests/JobNotesModelTest.cpp
+        LIBS orvan_core)
+endif()
