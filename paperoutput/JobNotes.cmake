@@ -6,9 +6,11 @@ target_sources(orvan_core PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/JobNotesPreferences.cpp
 )
 target_sources(orvan_widgets PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/JobNotesPanel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/JobNotesView.cpp
     ${CMAKE_CURRENT_LIST_DIR}/JobNotesPreferencesDialog.cpp
 )
+target_sources(${ORVAN_PLUGIN_NAME} PRIVATE ${CMAKE_CURRENT_LIST_DIR}/plugin/JobNotesPanelEntry.cpp)
 
 # Draws the panel's two icons into resources/bundle/images/; run by hand when
 # they change (cmake --build <dir> --target orvan_job_notes_pictures).
@@ -23,4 +25,8 @@ if(ORVAN_BUILD_TESTS)
     orvan_add_test(NAME jobnotes_model_tests
         SOURCES ${CMAKE_CURRENT_LIST_DIR}/tests/JobNotesModelTest.cpp
         LIBS orvan_core)
+    orvan_add_test(NAME jobnotes_widget_tests
+        SOURCES ${CMAKE_CURRENT_LIST_DIR}/tests/JobNotesPanelTest.cpp
+        LIBS orvan_widgets Qt6::Test
+        APPLICATION widgets)
 endif()

@@ -49,6 +49,7 @@ JobNotesPreferencesDialog::JobNotesPreferencesDialog(const Bundle* bundle,
     intro->setObjectName(QStringLiteral("JobNotesDefaultsIntro"));
     SetLocalizedStaticText(bundle, QStringLiteral("JobNotesDefaultsIntro"), intro);
     intro->setWordWrap(true);
+    intro->setMinimumWidth(320);
 
     auto* buttons = new QDialogButtonBox(
         QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
