@@ -115,9 +115,11 @@ public:
     // Messages are written when not empty and removed otherwise, the
     // additional information is always removed; each name writes its flag,
     // then the typed text, or the login name of the session's user when the
-    // automatic item is chosen. A name with nothing to write (empty typed
-    // text, no login name) removes its item. The first failure is returned;
-    // the other items are still written.
+    // automatic item is chosen. For the job name too: its flag tells the
+    // printer to take the job's own name (the document's), and the name item
+    // beside it carries the login name as it always has. A name with nothing
+    // to write (empty typed text, no login name) removes its item. The first
+    // failure is returned; the other items are still written.
     Status syncToTicket(Ticket& ticket) const;
     // Reads the flags that are present, both messages (empty when absent) and
     // the names: absent, the field is empty; present with its flag true, the
