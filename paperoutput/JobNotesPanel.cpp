@@ -35,8 +35,8 @@ Status JobNotesPanel::sync(PrintSession* session, bool direction)
     const Status status = m_model.sync(session, direction);
     if (direction && m_view)
         m_view->showModel();
-    if (!direction && session)
-        m_written = true;
+    if (m_view)
+        m_writtenForPrint = !direction && m_view->printRequested();
     return status;
 }
 
@@ -51,7 +51,7 @@ Status JobNotesPanel::summaryText(PropertyValue* titles, PropertyValue* values)
 Status JobNotesPanel::close()
 {
     if (m_view)
-        m_view->finalize(m_written);
+        m_view->finalize(m_writtenForPrint);
     return kNoError;
 }
 

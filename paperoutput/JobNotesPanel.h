@@ -25,10 +25,10 @@ public:
     Status initialize(QWidget* parent, PrintSession* session) override;
     Status sync(PrintSession* session, bool direction) override;
     Status summaryText(PropertyValue* titles, PropertyValue* values) override;
-    // The names typed go into the input history only when the job was
-    // written to the ticket since the panel opened (the user printed, or the
-    // dialog carried the job to another printer); a cancelled dialog leaves
-    // the history alone.
+    // The names typed go into the input history only when the user printed:
+    // the dialog was sent the OK command and the panel then wrote the job to
+    // the ticket. A cancelled dialog, a printer change or a look at another
+    // pane leaves the history alone.
     Status close() override;
     Status terminate(Status status) override;
 
@@ -39,7 +39,7 @@ private:
     const Bundle* m_bundle;
     JobNotesModel m_model;
     QPointer<JobNotesView> m_view;
-    bool m_written = false;
+    bool m_writtenForPrint = false;
 };
 
 } // namespace orvan

@@ -5,6 +5,8 @@
 #include "paperoutput/JobNotesPreferencesDialog.h"
 #include "platform/Alerts.h"
 #include "settings/Bundle.h"
+#include "shell/CommandEvent.h"
+#include "shell/PDEShell.h"
 #include "ui/InputLimitValidator.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/XComboBox.h"
@@ -61,7 +63,7 @@ JobNotesView::JobNotesView(JobNotesModel& model, const Bundle* bundle, QWidget* 
     : QWidget(parent), m_model(model), m_bundle(bundle),
       m_bannerMessage(makeMessageField("BannerMessageField", kBannerMessageLimit, this)),
       m_jobStartMessage(makeMessageField("JobStartMessageField", kJobStartMessageLimit, this)),
-      m_defaults(new QPushButton(this))
+      m_defaults(new QPushButton(this)), m_window(parent->window())
 {
     setObjectName(QStringLiteral("JobNotesEnhanced"));
     auto* grid = new QGridLayout;
@@ -122,7 +124,17 @@ JobNotesView::JobNotesView(JobNotesModel& model, const Bundle* bundle, QWidget* 
     layout->addLayout(bottom);
 
     PanelPaneLayout(parent)->addWidget(this);
+    m_window->installEventFilter(this);
     showModel();
+}
+
+bool JobNotesView::eventFilter(QObject* watched, QEvent* event)
+{
+    // Only noted: the command goes on to whoever handles it.
+    if (watched == m_window && event->type() == CommandEvent::eventType() &&
+        static_cast<CommandEvent*>(event)->command() == kCommandOK)
+        m_printRequested = true;
+    return QWidget::eventFilter(watched, event);
 }
 
 void JobNotesView::showModel()

@@ -34,12 +34,19 @@ public:
     // stop keeping a history. Called once, when the panel closes.
     void finalize(bool save);
 
+    // Whether the dialog's window was sent the OK command (the user clicked
+    // Print) since the view was made.
+    bool printRequested() const { return m_printRequested; }
+
     QComboBox* nameBox(JobNotesName which) const
     {
         return m_nameBoxes[static_cast<std::size_t>(which)];
     }
     QLineEdit* bannerMessageField() const { return m_bannerMessage; }
     QLineEdit* jobStartMessageField() const { return m_jobStartMessage; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void nameEdited(JobNotesName which);
@@ -51,6 +58,8 @@ private:
     QLineEdit* m_bannerMessage;
     QLineEdit* m_jobStartMessage;
     QPushButton* m_defaults;
+    QWidget* m_window;
+    bool m_printRequested = false;
 };
 
 } // namespace orvan

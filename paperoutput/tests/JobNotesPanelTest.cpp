@@ -8,6 +8,8 @@
 #include "settings/Preferences.h"
 #include "settings/PrintSession.h"
 #include "settings/SettingMapAccess.h"
+#include "shell/CommandEvent.h"
+#include "shell/PDEShell.h"
 #include "ui/InputLimitValidator.h"
 
 #include <QApplication>
@@ -46,6 +48,14 @@ struct OpenPane
     {
         panel.close();
         panel.terminate(kNoError);
+    }
+    // What the Print button does: the OK command to the window, then the
+    // sync that writes the job.
+    Status print(PrintSession& session)
+    {
+        CommandEvent ok(kCommandOK);
+        QCoreApplication::sendEvent(pane.window(), &ok);
+        return panel.sync(&session, false);
     }
     QComboBox* box(const char* name) const { return pane.findChild<QComboBox*>(name); }
     QLineEdit* field(const char* name) const { return pane.findChild<QLineEdit*>(name); }
@@ -105,7 +115,7 @@ TEST_F(JobNotesPaneTest, TypedNotesReachTheTicketAndTheHistoryAndTheNextDialogOf
         open.box("SenderNameBox")->lineEdit()->clear();
         OpenPane::type(open.box("SenderNameBox")->lineEdit(), "Ann Lee");
         OpenPane::type(open.field("BannerMessageField"), "Confidential");
-        ASSERT_EQ(open.panel.sync(&session, false), kNoError);
+        ASSERT_EQ(open.print(session), kNoError);
     }
     const Ticket& ticket = session.printSettings();
     EXPECT_EQ(ticket.string(kJobNotesJobNameKey), "Board minutes");
@@ -144,13 +154,14 @@ TEST_F(JobNotesPaneTest, CancelledDialogLeavesTheHistoryAndEmptyFieldsRemoveThei
         EXPECT_EQ(open.box("JobNameBox")->currentText(), "Draft");
         open.field("BannerMessageField")->clear();
         OpenPane::type(open.box("SenderNameBox")->lineEdit(), " typed but cancelled");
-        // Closed without a sync that writes: the user cancelled.
+        // Written when the user looked at another pane, then cancelled.
+        ASSERT_EQ(open.panel.sync(&session, false), kNoError);
     }
     EXPECT_EQ(CopyUserPreferences(kInputHistoryFileName)->size(), 0u);
     {
         OpenPane open(session);
         open.field("BannerMessageField")->clear();
-        ASSERT_EQ(open.panel.sync(&session, false), kNoError);
+        ASSERT_EQ(open.print(session), kNoError);
     }
     EXPECT_FALSE(session.printSettings().containsItem(kJobNotesSheetMessageKey));
 }
