@@ -1,10 +1,10 @@
 #include "paperoutput/JobNotesModel.h"
 
-#include "imagequality/PanelText.h"
 #include "platform/SystemFacts.h"
 #include "settings/PrintSession.h"
 #include "settings/SettingMaps.h"
 #include "settings/Ticket.h"
+#include "shell/PanelText.h"
 
 namespace orvan {
 

@@ -27,7 +27,6 @@ class PrintSession;
 class Ticket;
 
 inline const QString kJobNotesTitleKey = QStringLiteral("JobNotes");
-inline const QString kJobNotesKind = QStringLiteral("com.orvan.print.pde.jobnoteskind");
 
 inline const QString kJobNotesMessageKey = QStringLiteral("com.orvan.print.JobNotesMessage");
 inline const QString kJobNotesSheetMessageKey =
