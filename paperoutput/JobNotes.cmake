@@ -29,4 +29,12 @@ if(ORVAN_BUILD_TESTS)
         SOURCES ${CMAKE_CURRENT_LIST_DIR}/tests/JobNotesPanelTest.cpp
         LIBS orvan_widgets Qt6::Test
         APPLICATION widgets)
+    # The pane in orvan-print (built by host/).
+    if("host" IN_LIST ORVAN_SUBSYSTEMS)
+        orvan_add_test(NAME jobnotes_print_tests
+            SOURCES ${CMAKE_CURRENT_LIST_DIR}/tests/JobNotesPrintTest.cpp
+            LIBS orvan_print_host Qt6::Test
+            APPLICATION widgets)
+        add_dependencies(jobnotes_print_tests ${ORVAN_PLUGIN_NAME} orvan-print)
+    endif()
 endif()

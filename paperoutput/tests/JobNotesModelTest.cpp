@@ -12,9 +12,6 @@ using namespace orvan;
 
 namespace {
 
-constexpr std::int32_t kUseJobNameItem = 0x51756a6e;   // 'Qujn'
-constexpr std::int32_t kUseLoginNameItem = 0x4a6e554c; // 'JnUL'
-
 // The user's preferences in a fresh temporary folder.
 class JobNotesTest : public ::testing::Test
 {
@@ -137,47 +134,10 @@ TEST_F(JobNotesTest, ReadingTheTicket)
             << c.name.value_or("-").toStdString();
         EXPECT_EQ(model.bannerMessage(), "");
     }
-}
-
-TEST_F(JobNotesTest, ComboBoxValuesChooseOrTypeTheName)
-{
     JobNotesModel model;
-    model.applyDefaults({0, 0, 0});
-    const struct
-    {
-        Status status;
-        PropertyValue value;
-        JobNotesNameField expected;
-    } steps[] = {
-        {kNoError, PropertyValue("Budget"), {"Budget", false}},
-        {kNoError, PropertyValue::integer(kUseLoginNameItem), {"Budget", false}}, // not this box's
-        {kNoError, PropertyValue::integer(kUseJobNameItem), {"Budget", true}},
-        {kXComboBoxEmpty, PropertyValue(), {"", false}},
-    };
-    for (const auto& step : steps) {
-        model.setName(JobNotesName::Job, step.status, step.value);
-        EXPECT_EQ(model.name(JobNotesName::Job), step.expected)
-            << step.value.debugString().toStdString();
-    }
-}
-
-TEST_F(JobNotesTest, SyncRoundTripsAndNeedsASession)
-{
-    JobNotesModel written;
-    written.applyDefaults({1, 0, 0});
-    written.setName(JobNotesName::Sender, kNoError, PropertyValue("Dana"));
-    written.setBannerMessage("For the board");
-    PrintSession session;
-    ASSERT_EQ(written.sync(&session, false), kNoError);
-
-    JobNotesModel read;
-    read.applyDefaults({0, 1, 1});
-    ASSERT_EQ(read.sync(&session, true), kNoError);
-    for (JobNotesName which : kJobNotesNames)
-        EXPECT_EQ(read.name(which), written.name(which));
-    EXPECT_EQ(read.bannerMessage(), "For the board");
-    EXPECT_EQ(read.sync(nullptr, true), kSyncMissingContext);
-    EXPECT_EQ(read.bannerMessage(), "For the board");
+    model.setBannerMessage("kept");
+    EXPECT_EQ(model.sync(nullptr, true), kSyncMissingContext);
+    EXPECT_EQ(model.bannerMessage(), "kept");
 }
 
 TEST_F(JobNotesTest, SavedDefaultsApplyToTheNamesNotTypedYet)

@@ -1,16 +1,12 @@
-// The Job Notes pane offscreen: what the user types reaches the ticket and
-// the input history, the next dialog offers it, and the defaults file is
-// read and replaced the way a user can trust.
+// The Job Notes pane offscreen: typed names stay out of the input history
+// unless the user prints, the fields' lengths, and how the defaults file is
+// read and replaced. (Printing from orvan-print: JobNotesPrintTest.)
 #include "paperoutput/JobNotesPanel.h"
 #include "platform/Alerts.h"
-#include "platform/SystemFacts.h"
 #include "settings/Bundle.h"
 #include "settings/Preferences.h"
 #include "settings/PrintSession.h"
 #include "settings/SettingMapAccess.h"
-#include "shell/CommandEvent.h"
-#include "shell/PDEShell.h"
-#include "ui/InputLimitValidator.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -30,41 +26,6 @@ using namespace orvan;
 
 namespace {
 
-const Bundle& PluginBundle()
-{
-    static const Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR));
-    return bundle;
-}
-
-// A pane with the panel in it, read from the session as the host does.
-struct OpenPane
-{
-    explicit OpenPane(PrintSession& session) : panel(&PluginBundle())
-    {
-        EXPECT_EQ(panel.initialize(&pane, &session), kNoError);
-        EXPECT_EQ(panel.sync(&session, true), kNoError);
-    }
-    ~OpenPane()
-    {
-        panel.close();
-        panel.terminate(kNoError);
-    }
-    // What the Print button does: the OK command to the window, then the
-    // sync that writes the job.
-    Status print(PrintSession& session)
-    {
-        CommandEvent ok(kCommandOK);
-        QCoreApplication::sendEvent(pane.window(), &ok);
-        return panel.sync(&session, false);
-    }
-    QComboBox* box(const char* name) const { return pane.findChild<QComboBox*>(name); }
-    QLineEdit* field(const char* name) const { return pane.findChild<QLineEdit*>(name); }
-    static void type(QWidget* field, const QString& text) { QTest::keyClicks(field, text); }
-
-    QWidget pane;
-    JobNotesPanel panel;
-};
-
 class JobNotesPaneTest : public ::testing::Test
 {
 protected:
@@ -76,108 +37,66 @@ protected:
     }
     void TearDown() override
     {
+        m_panel.close();
         SetAlertPresenter(m_previous);
         qunsetenv("XDG_CONFIG_HOME");
+    }
+    // Opens the pane as the host does.
+    void open()
+    {
+        ASSERT_EQ(m_panel.initialize(&m_pane, &m_session), kNoError);
+        ASSERT_EQ(m_panel.sync(&m_session, true), kNoError);
     }
     QString preferencesPath() const
     {
         return m_dir.filePath("orvan/" + kJobNotesPreferencesFileName);
     }
-    static QString text(const char* key) { return *PluginBundle().localizedString(key); }
+    QComboBox* box(const char* name) const { return m_pane.findChild<QComboBox*>(name); }
+    QLineEdit* field(const char* name) const { return m_pane.findChild<QLineEdit*>(name); }
+    // Clicks Defaults... and lets `answer` work the dialog.
+    void editDefaults(const std::function<void(QWidget*)>& answer)
+    {
+        QTimer::singleShot(0, [&answer] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_TRUE(dialog && dialog->objectName() == "JobNotesPrefs");
+            answer(dialog);
+        });
+        m_pane.findChild<QPushButton*>("JobNotesDefaultsButton")->click();
+    }
 
     QTemporaryDir m_dir;
     QStringList m_alerts;
     AlertPresenter m_previous;
+    PrintSession m_session;
+    QWidget m_pane;
+    Bundle m_bundle{QStringLiteral(ORVAN_PLUGIN_DIR)};
+    JobNotesPanel m_panel{&m_bundle};
 };
-
-QStringList Items(const QComboBox* box)
-{
-    QStringList items;
-    for (int i = 0; i < box->count(); ++i)
-        items << box->itemText(i);
-    return items;
-}
 
 } // namespace
 
-TEST_F(JobNotesPaneTest, TypedNotesReachTheTicketAndTheHistoryAndTheNextDialogOffersThem)
+TEST_F(JobNotesPaneTest, NamesWrittenWithoutPrintingStayOutOfTheHistory)
 {
-    PrintSession session;
-    {
-        OpenPane open(session);
-        // No defaults file: all three names start on their automatic items.
-        EXPECT_EQ(open.box("JobNameBox")->currentText(), text("UseJobName"));
-        EXPECT_EQ(open.box("SenderNameBox")->currentText(), text("UseLoginName"));
-        EXPECT_EQ(open.box("RecipientNameBox")->currentText(), text("UseLoginName"));
-
-        open.box("JobNameBox")->lineEdit()->clear();
-        OpenPane::type(open.box("JobNameBox")->lineEdit(), "Board minutes");
-        open.box("SenderNameBox")->lineEdit()->clear();
-        OpenPane::type(open.box("SenderNameBox")->lineEdit(), "Ann Lee");
-        OpenPane::type(open.field("BannerMessageField"), "Confidential");
-        ASSERT_EQ(open.print(session), kNoError);
-    }
-    const Ticket& ticket = session.printSettings();
-    EXPECT_EQ(ticket.string(kJobNotesJobNameKey), "Board minutes");
-    EXPECT_EQ(ticket.boolean(kJobNotesUseJobNameKey), false);
-    EXPECT_EQ(ticket.string(kJobNotesSenderNameKey), "Ann Lee");
-    EXPECT_EQ(ticket.string(kJobNotesRecipientKey), SessionUserName());
-    EXPECT_EQ(ticket.boolean(kJobNotesRecipientUseLoginNameKey), true);
-    EXPECT_EQ(ticket.string(kJobNotesSheetMessageKey), "Confidential");
-    EXPECT_FALSE(ticket.containsItem(kJobNotesMessageKey));
-
-    const PropertyValue history = *CopyUserPreferences(kInputHistoryFileName);
-    EXPECT_EQ(*history.find("jobNotesJobName"), PropertyValue(PropertyArray{"Board minutes"}));
-    EXPECT_EQ(*history.find("jobNotesSenderName"), PropertyValue(PropertyArray{"Ann Lee"}));
-    // The automatic item is not an entry of its own.
-    const PropertyValue* recipients = history.find("jobNotesRecipientName");
-    EXPECT_TRUE(!recipients || recipients->size() == 0);
-
-    // A new job offers the names typed before, below the automatic items.
-    PrintSession next;
-    OpenPane second(next);
-    EXPECT_EQ(Items(second.box("JobNameBox")), QStringList({text("UseJobName"), "Board minutes"}));
-    EXPECT_EQ(Items(second.box("SenderNameBox")), QStringList({text("UseLoginName"), "Ann Lee"}));
-    EXPECT_EQ(second.box("JobNameBox")->currentText(), text("UseJobName"));
-}
-
-TEST_F(JobNotesPaneTest, CancelledDialogLeavesTheHistoryAndEmptyFieldsRemoveTheirItems)
-{
-    PrintSession session;
-    session.printSettings().setItem(kPanelClient, kJobNotesSheetMessageKey, PropertyValue("Old"));
-    session.printSettings().setItem(kPanelClient, kJobNotesUseJobNameKey,
-                                    PropertyValue::boolean(false));
-    session.printSettings().setItem(kPanelClient, kJobNotesJobNameKey, PropertyValue("Draft"));
-    {
-        OpenPane open(session);
-        EXPECT_EQ(open.field("BannerMessageField")->text(), "Old");
-        EXPECT_EQ(open.box("JobNameBox")->currentText(), "Draft");
-        open.field("BannerMessageField")->clear();
-        OpenPane::type(open.box("SenderNameBox")->lineEdit(), " typed but cancelled");
-        // Written when the user looked at another pane, then cancelled.
-        ASSERT_EQ(open.panel.sync(&session, false), kNoError);
-    }
+    open();
+    box("JobNameBox")->lineEdit()->clear();
+    QTest::keyClicks(box("JobNameBox")->lineEdit(), "Looked at, then cancelled");
+    ASSERT_EQ(m_panel.sync(&m_session, false), kNoError); // another pane was chosen
+    m_panel.close();
+    EXPECT_EQ(m_session.printSettings().string(kJobNotesJobNameKey), "Looked at, then cancelled");
     EXPECT_EQ(CopyUserPreferences(kInputHistoryFileName)->size(), 0u);
-    {
-        OpenPane open(session);
-        open.field("BannerMessageField")->clear();
-        ASSERT_EQ(open.print(session), kNoError);
-    }
-    EXPECT_FALSE(session.printSettings().containsItem(kJobNotesSheetMessageKey));
 }
 
 TEST_F(JobNotesPaneTest, FieldsStopAtTheirLongestText)
 {
-    PrintSession session;
-    OpenPane open(session);
+    open();
     const struct
     {
         QLineEdit* field;
         int limit;
     } cases[] = {
-        {open.field("BannerMessageField"), kBannerMessageLimit},
-        {open.field("JobStartMessageField"), kJobStartMessageLimit},
-        {open.box("RecipientNameBox")->lineEdit(), kJobNotesNameLimit},
+        {field("BannerMessageField"), kBannerMessageLimit},
+        {field("JobStartMessageField"), kJobStartMessageLimit},
+        {box("RecipientNameBox")->lineEdit(), kJobNotesNameLimit},
     };
     for (const auto& c : cases) {
         c.field->clear();
@@ -188,50 +107,36 @@ TEST_F(JobNotesPaneTest, FieldsStopAtTheirLongestText)
 
 TEST_F(JobNotesPaneTest, CorruptDefaultsReadAsOnQuietlyAndAreSetAsideWhenNewOnesAreSaved)
 {
+    const QByteArray corrupt = "<plist><dict><key>useLoginNameAsSenderName";
     QDir().mkpath(m_dir.filePath("orvan"));
-    {
-        QFile corrupt(preferencesPath());
-        ASSERT_TRUE(corrupt.open(QIODevice::WriteOnly));
-        corrupt.write("<plist><dict><key>useLoginNameAsSenderName");
-    }
-    PrintSession session;
-    OpenPane open(session);
+    QFile file(preferencesPath());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(corrupt) > 0);
+    file.close();
+    open();
     for (const char* name : {"JobNameBox", "SenderNameBox", "RecipientNameBox"})
-        EXPECT_NE(open.box(name)->currentText(), "") << name;
+        EXPECT_NE(box(name)->currentText(), "") << name;
     EXPECT_TRUE(m_alerts.isEmpty());
     for (QWidget* window : QApplication::topLevelWidgets())
         EXPECT_EQ(qobject_cast<QMessageBox*>(window), nullptr);
 
-    // Cancel leaves the file as it is.
-    QTimer::singleShot(0, [] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_TRUE(dialog && dialog->objectName() == "JobNotesPrefs");
-        dialog->findChild<QPushButton*>("CancelButton")->click();
-    });
-    open.pane.findChild<QPushButton*>("JobNotesDefaultsButton")->click();
-    EXPECT_TRUE(QFile::exists(preferencesPath()));
+    // Cancel leaves the file alone; OK replaces it and keeps it beside.
+    editDefaults([](QWidget* dialog) { dialog->findChild<QPushButton*>("CancelButton")->click(); });
     EXPECT_FALSE(QFile::exists(preferencesPath() + ".unreadable"));
-
-    // Saving replaces it, the unreadable one kept beside it.
-    QStringList shownChecked;
-    QTimer::singleShot(0, [&shownChecked] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_TRUE(dialog);
-        for (auto* box : dialog->findChildren<QCheckBox*>())
-            if (box->isChecked())
-                shownChecked << box->objectName();
+    int shownChecked = 0;
+    editDefaults([&shownChecked](QWidget* dialog) {
+        for (auto* check : dialog->findChildren<QCheckBox*>())
+            shownChecked += check->isChecked() ? 1 : 0;
         dialog->findChild<QCheckBox*>("SenderLoginNameCheckBox")->setChecked(false);
         dialog->findChild<QPushButton*>("OKButton")->click();
     });
-    open.pane.findChild<QPushButton*>("JobNotesDefaultsButton")->click();
-    EXPECT_EQ(shownChecked.size(), 3);
+    EXPECT_EQ(shownChecked, 3);
     JobNotesPreferencesOptions stored;
     RetrieveJobNotesPreferences(&stored);
     EXPECT_EQ(stored, (JobNotesPreferencesOptions{1, 0, 1}));
     QFile aside(preferencesPath() + ".unreadable");
     ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
-    EXPECT_EQ(aside.readAll(), "<plist><dict><key>useLoginNameAsSenderName");
+    EXPECT_EQ(aside.readAll(), corrupt);
     // The sender was not typed, so the new default shows at once.
-    EXPECT_EQ(open.box("SenderNameBox")->currentText(), "");
+    EXPECT_EQ(box("SenderNameBox")->currentText(), "");
     EXPECT_TRUE(m_alerts.isEmpty());
 }
