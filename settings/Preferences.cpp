@@ -70,7 +70,8 @@ QString ApplicationSupportFolder()
     return QDir().mkpath(folder) ? folder : QString();
 }
 
-bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode, QString* errorText)
+bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode,
+                           QString* errorText, FilePrivacy privacy)
 {
     QString why;
     const std::optional<QByteArray> xml = writePropertyList(value, &why);
@@ -82,7 +83,11 @@ bool WritePropertyListFile(const QString& path, const PropertyValue& value, int*
         return false;
     }
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(*xml) == xml->size() && file.commit())
+    // The permissions go to the temporary file, so the file is never readable by others.
+    if (file.open(QIODevice::WriteOnly) &&
+        (privacy == FilePrivacy::Default ||
+         file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)) &&
+        file.write(*xml) == xml->size() && file.commit())
         return true;
     if (errorCode)
         *errorCode = file.error() == QFileDevice::NoError ? QFileDevice::WriteError : file.error();

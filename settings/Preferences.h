@@ -49,10 +49,19 @@ std::optional<PropertyValue> CopyXMLData(const QString& fileName);
 // Writes a shared data file atomically; false (with a diagnostic) on failure.
 bool WriteXMLData(const QString& fileName, const PropertyValue& value);
 
+// Who may read a written file: the umask's choice, or the user alone (files
+// that can hold a passcode).
+enum class FilePrivacy
+{
+    Default,
+    OwnerOnly,
+};
+
 // Writes a property list to any path atomically; the error code of the
 // failure (a QFileDevice::FileError, or -50 when the value cannot be written
 // as a property list) goes to errorCode.
-bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode = nullptr,
-                           QString* errorText = nullptr);
+bool WritePropertyListFile(const QString& path, const PropertyValue& value,
+                           int* errorCode = nullptr, QString* errorText = nullptr,
+                           FilePrivacy privacy = FilePrivacy::Default);
 
 } // namespace orvan
