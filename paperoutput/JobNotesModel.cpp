@@ -159,14 +159,15 @@ Status JobNotesModel::syncToTicket(Ticket& ticket) const
 
 void JobNotesModel::syncFromTicket(const Ticket& ticket)
 {
-    for (JobNotesName which : kJobNotesNames)
-        if (const std::optional<bool> flag = ticket.boolean(*rowOf(which).flagKey))
-            field(which).automatic = *flag;
     m_jobStartMessage = ticket.string(kJobNotesMessageKey).value_or(QString());
     m_bannerMessage = ticket.string(kJobNotesSheetMessageKey).value_or(QString());
     for (JobNotesName which : kJobNotesNames) {
         JobNotesNameField& name = field(which);
+        const std::optional<bool> flag = ticket.boolean(*rowOf(which).flagKey);
         const std::optional<QString> text = ticket.string(*rowOf(which).nameKey);
+        // A name the ticket gives without its flag was given for this job.
+        if (flag || text)
+            name.automatic = flag.value_or(false);
         name.typed = text && !name.automatic ? *text : QString();
     }
 }

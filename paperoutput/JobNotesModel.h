@@ -122,8 +122,9 @@ public:
     Status syncToTicket(Ticket& ticket) const;
     // Reads the flags that are present, both messages (empty when absent) and
     // the names: absent, the field is empty; present with its flag true, the
-    // field is empty and the automatic item chosen; otherwise the ticket's
-    // text is the typed name.
+    // field is empty and the automatic item chosen; otherwise (flag false or
+    // absent) the ticket's text is the typed name. A name with neither item
+    // keeps the defaults' choice.
     void syncFromTicket(const Ticket& ticket);
 
     // One pair per name and message that holds something, titled by its label.

@@ -116,7 +116,7 @@ TEST_F(JobNotesTest, ReadingTheTicket)
         {false, QString("Ann"), true, {"Ann", false}},
         {true, QString("ann"), false, {"", true}},
         {std::nullopt, std::nullopt, true, {"", true}},
-        {std::nullopt, QString("Bob"), false, {"Bob", false}},
+        {std::nullopt, QString("Bob"), true, {"Bob", false}},
         {false, std::nullopt, true, {"", false}},
     };
     for (const auto& c : cases) {
