@@ -184,6 +184,7 @@ int main(int argc, char** argv)
         return dumpTicket(*plugin, session, line->ticketOut);
 
     InstallMessageBoxAlertPresenter();
+    InstallMessageBoxQuestionPresenter();
     PrintDialog::Options options;
     options.files = line->files;
     options.saveTicketPath = line->ticketOut;

@@ -6,6 +6,7 @@
 
 #include "settings/PropertyValue.h"
 #include "specialpages/Cover.h"
+#include "specialpages/SpecialPageKeys.h" // the job-level stock and booklet layout keys
 #include "stock/Stock.h"
 
 #include <QString>
@@ -19,7 +20,6 @@ class Ticket;
 
 // Print-settings ticket keys.
 inline const QString kJobTypeKey = QStringLiteral("com.orvan.print.JobType");
-inline const QString kJobLevelStockKey = QStringLiteral("com.orvan.print.JobLevelStock");
 inline const QString kSeparatorOptionKey = QStringLiteral("com.orvan.print.SeparatorOption");
 inline const QString kSeparatorColorKey = QStringLiteral("com.orvan.print.SeparatorColor");
 inline const QString kFinishingOptionsKey = QStringLiteral("com.orvan.print.FinishingOptions");
@@ -33,7 +33,6 @@ inline const QString kFinishingBindValueKey = QStringLiteral("com.orvan.print.Fi
 inline const QString kFinishingCustomKey = QStringLiteral("com.orvan.print.FinishingCustom");
 inline const QString kFinishingDuplexKey = QStringLiteral("com.orvan.print.FinishingDuplex");
 inline const QString kDuplexingKey = QStringLiteral("com.apple.print.PrintSettings.PMDuplexing");
-inline const QString kBookletLayoutKey = QStringLiteral("com.orvan.print.BookletLayout");
 inline const QString kBookletDrawOutlinesKey =
     QStringLiteral("com.orvan.print.BookletDrawOutlines");
 inline const QString kBookletForceNewSizeKey =
