@@ -11,6 +11,9 @@
 
 namespace orvan {
 
+// The job's name; the dialog names a job after its first document.
+inline const QString kJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
+
 // The files as the session's job on the printer; the job is named after the
 // first file unless the tickets name it. A printer with neither a queue nor
 // an address (the sample printer, a PPD file) cannot take a job.

@@ -1,6 +1,7 @@
 // orvan-print: the Print dialog for Orvan printers, and its headless forms.
 #include "host/HeadlessPrint.h"
 #include "host/HostCommandLine.h"
+#include "host/JobSubmission.h"
 #include "host/PluginHost.h"
 #include "host/Presets.h"
 #include "host/PrintDialog.h"
@@ -149,6 +150,12 @@ int main(int argc, char** argv)
     // The dialog reports a preset it cannot apply and stays open.
     if (headless && !line->preset.isEmpty() && !ApplyPreset(line->preset, session, &why))
         return usageError(why);
+
+    // The job takes its first document's name before the panels first read
+    // the ticket, in the dialog and headless alike.
+    if (!line->files.isEmpty())
+        session.printSettings().setItem(kPrintingManagerClient, kJobNameKey,
+                                        QFileInfo(line->files.first()).fileName());
 
     const QString pluginFolder = PluginHost::locatePluginFolder();
     std::unique_ptr<PluginHost> plugin = PluginHost::load(pluginFolder, &why);

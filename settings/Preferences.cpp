@@ -23,6 +23,30 @@ bool isWritableFolder(const QString& path)
     return info.isDir() && info.isWritable();
 }
 
+// The content of a per-user file as a dictionary; nullopt when it cannot be
+// read or is not one.
+std::optional<PropertyValue> readUserDictionary(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    std::optional<PropertyValue> content = readPropertyList(file.readAll());
+    if (!content || !content->isDictionary())
+        return std::nullopt;
+    return content;
+}
+
+// Renames a present file that does not read as a dictionary to
+// "<path>.unreadable"; false when that fails.
+bool setAsideUnreadable(const QString& path)
+{
+    if (!QFileInfo::exists(path) || readUserDictionary(path))
+        return true;
+    const QString aside = path + QStringLiteral(".unreadable");
+    QFile::remove(aside);
+    return QFile::rename(path, aside);
+}
+
 } // namespace
 
 QString UserPreferencesFolder()
@@ -78,22 +102,21 @@ std::optional<PropertyValue> CopyUserPreferences(const QString& fileName)
     const QString folder = UserPreferencesFolder();
     if (folder.isEmpty())
         return std::nullopt;
-    QFile file(folder + QLatin1Char('/') + fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return PropertyValue::dictionary();
-    std::optional<PropertyValue> content = readPropertyList(file.readAll());
-    if (!content || !content->isDictionary())
-        return PropertyValue::dictionary();
-    return content;
+    std::optional<PropertyValue> content = readUserDictionary(folder + QLatin1Char('/') + fileName);
+    return content ? std::move(content) : PropertyValue::dictionary();
 }
 
 bool WriteUserPreferences(const QString& fileName, const PropertyValue& value)
 {
     const QString folder = UserPreferencesFolder();
+    const QString path = folder + QLatin1Char('/') + fileName;
     int code = QFileDevice::OpenError;
-    if (!folder.isEmpty() && QDir().mkpath(folder) &&
-        WritePropertyListFile(folder + QLatin1Char('/') + fileName, value, &code))
-        return true;
+    if (!folder.isEmpty() && QDir().mkpath(folder)) {
+        if (!setAsideUnreadable(path))
+            code = QFileDevice::RenameError;
+        else if (WritePropertyListFile(path, value, &code))
+            return true;
+    }
     std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n", code);
     return false;
 }

@@ -28,7 +28,9 @@ QString ApplicationSupportFolder();
 std::optional<PropertyValue> CopyUserPreferences(const QString& fileName);
 
 // Writes the value to the per-user file, replacing it atomically (the folder
-// is created when missing). On failure writes
+// is created when missing). A file there that does not read as a dictionary
+// is first renamed to "<fileName>.unreadable" (replacing an older one), so
+// what it held is never lost without a trace. On failure writes
 // "WriteUserPreferences() failed (<code>)" to the standard error stream and
 // returns false.
 bool WriteUserPreferences(const QString& fileName, const PropertyValue& value);

@@ -31,6 +31,8 @@ inline constexpr Status kOkCommandConsumed = -12345678;
 inline constexpr Status kUnexpectedFailure = -9536;
 // The address book could not be written (its folder or a contact file).
 inline constexpr Status kAddressBookWriteFailed = -36;
+// A preference file could not be made or written.
+inline constexpr Status kPreferencesNotStored = -1;
 // Query-interface for an interface the object does not offer.
 inline constexpr Status kNoSuchInterface = static_cast<Status>(0x80000004u);
 

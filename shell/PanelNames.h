@@ -10,6 +10,7 @@ namespace orvan {
 
 inline constexpr const char* kStandalonePaneInterfaces[] = {
     "GetSpecialPagesPanelInterface",
+    "GetJobNotesPanelInterface",
     nullptr,
 };
 

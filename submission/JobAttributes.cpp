@@ -362,7 +362,9 @@ JobDescription DescribeJob(const PrintSession& session, const QString& documentN
         typeItem(kJobTypeValueKey) ? typeItem(kJobTypeValueKey)->toInteger().value_or(1) : 1;
 
     // Operation attributes.
-    QString name = settings.string(kJobNotesJobNameKey).value_or(QString());
+    QString name = settings.boolean(kJobNotesUseJobNameKey).value_or(false)
+                       ? QString()
+                       : settings.string(kJobNotesJobNameKey).value_or(QString());
     if (const PropertyValue* saved = typeItem(kSavedJobNameKey);
         type == kJobTypeSavedJob && saved && !saved->toString().isEmpty() &&
         !(typeItem(kUseJobNameKey) && typeItem(kUseJobNameKey)->toBool().value_or(false)))

@@ -49,6 +49,9 @@ inline const QString kFaxDialingCharacters = QStringLiteral("0123456789*#=:!,/S$
 
 // Job notes.
 inline const QString kJobNotesJobNameKey = QStringLiteral("com.orvan.print.JobNotesJobName");
+// True when the job takes its own (the document's) name; the job-name item
+// beside it then holds the login name, not a name for the job.
+inline const QString kJobNotesUseJobNameKey = QStringLiteral("com.orvan.print.JobNotesUseJobName");
 inline const QString kJobNotesSheetMessageKey =
     QStringLiteral("com.orvan.print.JobNotesSheetMessage");
 inline const QString kJobNotesMessageKey = QStringLiteral("com.orvan.print.JobNotesMessage");

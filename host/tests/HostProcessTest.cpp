@@ -104,6 +104,18 @@ TEST_F(OrvanPrintProcess, DumpsTheShellItemsWithoutServerOrDisplay)
     EXPECT_FALSE(session.printSettings().ppdDictionary().asDictionary().empty());
 }
 
+TEST_F(OrvanPrintProcess, FirstDocumentNamesTheJob)
+{
+    ASSERT_TRUE(WritePostScriptDocument(path("Quarterly report.ps"), 1));
+    ASSERT_TRUE(WritePostScriptDocument(path("second.ps"), 1));
+    const PrintSession session = dumpTicket({path("Quarterly report.ps"), path("second.ps")});
+    const TicketItem* name = session.printSettings().item(kJobNameKey);
+    ASSERT_TRUE(name);
+    EXPECT_EQ(*name,
+              (TicketItem{PropertyValue("Quarterly report.ps"), kPrintingManagerClient, false}));
+    EXPECT_FALSE(dumpTicket({}).printSettings().containsItem(kJobNameKey));
+}
+
 TEST_F(OrvanPrintProcess, PpdFileAndQueueOfTheSamePpdGiveTheSameTicket)
 {
     const PrintSession fileSession = dumpTicket({"--ppd", SamplePpdPath()});

@@ -69,11 +69,15 @@ TEST_F(PreferencesTest, CorruptOrForeignFilesReadAsEmptyAndOthersAreUntouched)
         ASSERT_TRUE(prefs) << name;
         EXPECT_EQ(*prefs, PropertyValue::dictionary()) << name;
     }
-    // The next write replaces the corrupt file; its neighbour stays as it was.
+    // The next write sets the corrupt file aside and replaces it; its
+    // neighbour stays as it was.
     PropertyValue value = PropertyValue::dictionary();
     value.insert("k", PropertyValue("v"));
     ASSERT_TRUE(WriteUserPreferences("broken.plist", value));
     EXPECT_EQ(*CopyUserPreferences("broken.plist"), value);
+    QFile aside(userFile("broken.plist.unreadable"));
+    ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
+    EXPECT_EQ(aside.readAll(), "this is not a property list");
     QFile other(userFile("other.plist"));
     ASSERT_TRUE(other.open(QIODevice::ReadOnly));
     EXPECT_EQ(other.readAll(), "keep me");

@@ -256,6 +256,13 @@ TEST(JobAttributes, TicketFragmentsBecomeTypedAttributes)
           {"job-sheet-message", "job-sheet-message (textWithoutLanguage)=For Ada"},
           {"job-message-to-operator",
            "job-message-to-operator (textWithoutLanguage)=Use the blue tray"}}},
+        {"job notes taking the document's name",
+         [](PrintSession& s) {
+             s.printSettings().setItem(kPanelClient, kJobNotesUseJobNameKey,
+                                       PropertyValue::boolean(true));
+             s.printSettings().setItem(kPanelClient, kJobNotesJobNameKey, "login");
+         },
+         {{"job-name", "job-name (nameWithoutLanguage)=report.pdf"}}},
         {"resolution and quality; toner saving means draft",
          [](PrintSession& s) {
              SetPpd(s.printSettings(), {{"Resolution", "1200x600dpi"},
