@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/PrinterList.h"
+#include "settings/PageFormat.h" // kJobNameKey: the dialog names a job after its first document
 #include "settings/PrintSession.h"
 #include "submission/CopiesAndPages.h"
 #include "submission/Submission.h"
@@ -10,9 +11,6 @@
 #include <QStringList>
 
 namespace orvan {
-
-// The job's name; the dialog names a job after its first document.
-inline const QString kJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
 
 // The files as the session's job on the printer; the job is named after the
 // first file unless the tickets name it. A printer with neither a queue nor

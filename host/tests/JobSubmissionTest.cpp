@@ -211,8 +211,8 @@ TEST_F(Submission, EveryJobTypeReachesThePrinter)
              t.ppdDictionary().insert("Resolution", "1200x1200dpi");
              t.ppdDictionary().insert("JCLPrintQuality", "Enhanced");
              t.ppdDictionary().insert("Duplex", "DuplexTumble");
-             t.setItem(kPanelClient, kLayoutRowsKey, PropertyValue::integer(2));
-             t.setItem(kPanelClient, kLayoutColumnsKey, PropertyValue::integer(1));
+             t.setItem(kPanelClient, orvan::kLayoutRowsKey, PropertyValue::integer(2));
+             t.setItem(kPanelClient, orvan::kLayoutColumnsKey, PropertyValue::integer(1));
              WriteCopiesAndPages(t, 2, 1, 2);
          },
          {"printer-resolution", "print-quality", "sides", "number-up", "copies", "page-ranges"},
