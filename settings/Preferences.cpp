@@ -3,10 +3,10 @@
 #include "settings/PropertyList.h"
 #include "settings/Status.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <cstdio>
@@ -46,7 +46,8 @@ QString ApplicationSupportFolder()
     return QDir().mkpath(folder) ? folder : QString();
 }
 
-bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode, QString* errorText)
+bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode,
+                           QString* errorText, FilePrivacy privacy)
 {
     QString why;
     const std::optional<QByteArray> xml = writePropertyList(value, &why);
@@ -57,15 +58,53 @@ bool WritePropertyListFile(const QString& path, const PropertyValue& value, int*
             *errorText = why;
         return false;
     }
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(*xml) == xml->size() && file.commit())
+    const FileError error = ReplaceFile(QFile::encodeName(path).toStdString(),
+                                        std::string_view(xml->constData(), xml->size()), privacy);
+    if (error.empty())
         return true;
     if (errorCode)
-        *errorCode = file.error() == QFileDevice::NoError ? QFileDevice::WriteError : file.error();
+        *errorCode = QFileDevice::WriteError;
     if (errorText)
-        *errorText = file.errorString();
-    file.cancelWriting();
+        *errorText = QString::fromLocal8Bit(error);
     return false;
+}
+
+std::optional<PropertyValue> ReadPropertyListFile(const QString& path, QString* error)
+{
+    std::vector<std::uint8_t> bytes;
+    const FileError why =
+        ReadWholeFile(QFile::encodeName(path).toStdString(), kMaxPropertyListFileSize, bytes);
+    if (!why.empty()) {
+        if (error)
+            *error = QString::fromLocal8Bit(why);
+        return std::nullopt;
+    }
+    PropertyListError parseError;
+    auto value =
+        readPropertyList(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                                 qsizetype(bytes.size())),
+                         &parseError);
+    if (!value && error)
+        *error = parseError.toString();
+    return value;
+}
+
+void SetAsideDamagedFile(const QString& path, const QString& why)
+{
+    if (!QFileInfo(path).isFile())
+        return;
+    const QString dated = path + QStringLiteral(".damaged-") +
+                          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString aside = dated;
+    for (int n = 2; QFileInfo::exists(aside) && n < 100; ++n)
+        aside = dated + QLatin1Char('-') + QString::number(n);
+    if (QFile::rename(path, aside))
+        std::fprintf(stderr, "orvan: %s could not be read (%s); it was set aside as %s\n",
+                     QFile::encodeName(path).constData(), why.toLocal8Bit().constData(),
+                     QFile::encodeName(aside).constData());
+    else
+        std::fprintf(stderr, "orvan: %s could not be read (%s) nor set aside\n",
+                     QFile::encodeName(path).constData(), why.toLocal8Bit().constData());
 }
 
 std::optional<PropertyValue> CopyUserPreferences(const QString& fileName)
@@ -73,12 +112,17 @@ std::optional<PropertyValue> CopyUserPreferences(const QString& fileName)
     const QString folder = UserPreferencesFolder();
     if (folder.isEmpty())
         return std::nullopt;
-    QFile file(folder + QLatin1Char('/') + fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    const QString path = folder + QLatin1Char('/') + fileName;
+    if (!QFileInfo::exists(path))
         return PropertyValue::dictionary();
-    std::optional<PropertyValue> content = readPropertyList(file.readAll());
-    if (!content || !content->isDictionary())
+    QString why;
+    std::optional<PropertyValue> content = ReadPropertyListFile(path, &why);
+    if (content && !content->isDictionary())
+        why = QStringLiteral("not a dictionary");
+    if (!content || !content->isDictionary()) {
+        SetAsideDamagedFile(path, why);
         return PropertyValue::dictionary();
+    }
     return content;
 }
 
@@ -86,7 +130,8 @@ bool WriteUserPreferences(const QString& fileName, const PropertyValue& value)
 {
     const QString folder = UserPreferencesFolder();
     int code = QFileDevice::OpenError;
-    if (!folder.isEmpty() && QDir().mkpath(folder) &&
+    if (!folder.isEmpty() &&
+        MakeFolder(QFile::encodeName(folder).toStdString(), FilePrivacy::Private).empty() &&
         WritePropertyListFile(folder + QLatin1Char('/') + fileName, value, &code))
         return true;
     std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n", code);
@@ -107,16 +152,15 @@ QString CopyPreferenceFileURL(const QString& fileName)
 std::optional<PropertyValue> CopyXMLData(const QString& fileName)
 {
     const QString path = CopyPreferenceFileURL(fileName);
-    if (path.isEmpty())
+    if (path.isEmpty() || !QFileInfo::exists(path))
         return std::nullopt;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    PropertyListError error;
-    std::optional<PropertyValue> content = readPropertyList(file.readAll(), &error);
-    if (!content)
+    QString why;
+    std::optional<PropertyValue> content = ReadPropertyListFile(path, &why);
+    if (!content) {
         std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n",
-                     error.toString().toUtf8().constData());
+                     why.toUtf8().constData());
+        SetAsideDamagedFile(path, why);
+    }
     return content;
 }
 
@@ -125,7 +169,7 @@ bool WriteXMLData(const QString& fileName, const PropertyValue& value)
     const QString path = CopyPreferenceFileURL(fileName);
     int code = QFileDevice::OpenError;
     QString why;
-    if (!path.isEmpty() && WritePropertyListFile(path, value, &code, &why))
+    if (!path.isEmpty() && WritePropertyListFile(path, value, &code, &why, FilePrivacy::Shared))
         return true;
     std::fprintf(stderr, "WriteXMLData(%s) failed (%d) %s\n", fileName.toUtf8().constData(), code,
                  why.toUtf8().constData());

@@ -5,6 +5,7 @@
 // half-written file behind.
 #pragma once
 
+#include "platform/FileAccess.h"
 #include "settings/PropertyValue.h"
 
 #include <QString>
@@ -14,6 +15,7 @@
 namespace orvan {
 
 // $XDG_CONFIG_HOME/orvan (empty when no configuration folder can be found).
+// Writes create it 0700: it holds job settings and passcodes.
 QString UserPreferencesFolder();
 
 // The machine-wide data folder that holds "Orvan/": $ORVAN_SHARED_DATA_DIR
@@ -25,10 +27,12 @@ QString ApplicationSupportFolder();
 // The per-user file's content as a dictionary: an empty dictionary when the
 // file is missing, unreadable, not a property list or not a dictionary.
 // nullopt only when the preferences folder itself cannot be found.
+// A file that is there but unreadable is set aside first (see
+// SetAsideDamagedFile), so that the next write does not destroy it.
 std::optional<PropertyValue> CopyUserPreferences(const QString& fileName);
 
-// Writes the value to the per-user file, replacing it atomically (the folder
-// is created when missing). On failure writes
+// Writes the value to the per-user file, replacing it atomically and
+// privately (0600; the folder is created 0700 when missing). On failure writes
 // "WriteUserPreferences() failed (<code>)" to the standard error stream and
 // returns false.
 bool WriteUserPreferences(const QString& fileName, const PropertyValue& value);
@@ -41,16 +45,28 @@ QString CopyPreferenceFileURL(const QString& fileName);
 
 // The shared data file's content; nullopt when it cannot be located, read or
 // parsed. A parse error is written to the standard error stream as
-// "CopyXMLData()::CFPropertyListCreateFromXMLData() error: <what and where>".
+// "CopyXMLData()::CFPropertyListCreateFromXMLData() error: <what and where>",
+// and the damaged file is set aside (SetAsideDamagedFile).
 std::optional<PropertyValue> CopyXMLData(const QString& fileName);
 
 // Writes a shared data file atomically; false (with a diagnostic) on failure.
 bool WriteXMLData(const QString& fileName, const PropertyValue& value);
 
-// Writes a property list to any path atomically; the error code of the
-// failure (a QFileDevice::FileError, or -50 when the value cannot be written
-// as a property list) goes to errorCode.
-bool WritePropertyListFile(const QString& path, const PropertyValue& value, int* errorCode = nullptr,
-                           QString* errorText = nullptr);
+// Writes a property list to any path (see ReplaceFile: atomic for regular
+// files, links followed, devices and pipes written through, "-" standard
+// output); the error code of the failure (QFileDevice::WriteError, or -50
+// when the value cannot be written as a property list) goes to errorCode.
+bool WritePropertyListFile(const QString& path, const PropertyValue& value,
+                           int* errorCode = nullptr, QString* errorText = nullptr,
+                           FilePrivacy privacy = FilePrivacy::Private);
+
+// Reads a property-list file of at most kMaxPropertyListFileSize bytes;
+// nullopt with the reason ("larger than 32 MiB", "line 3, column 1: ...").
+std::optional<PropertyValue> ReadPropertyListFile(const QString& path, QString* error = nullptr);
+
+// Renames a regular file that could not be used to
+// "<name>.damaged-<yyyyMMdd-HHmmss>" beside it and says so, with the reason,
+// on the standard error stream. Nothing for a path that is no regular file.
+void SetAsideDamagedFile(const QString& path, const QString& why);
 
 } // namespace orvan
