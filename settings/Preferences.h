@@ -63,6 +63,12 @@ bool WritePropertyListFile(const QString& path, const PropertyValue& value,
 // Reads a property-list file of at most kMaxPropertyListFileSize bytes;
 // nullopt with the reason ("larger than 32 MiB", "line 3, column 1: ...").
 std::optional<PropertyValue> ReadPropertyListFile(const QString& path, QString* error = nullptr);
+// The plug-in's reader of its own XML files: the value, or nullopt when the
+// file cannot be read or parsed.
+inline std::optional<PropertyValue> CreatePropertiesFromXMLFile(const QString& path)
+{
+    return ReadPropertyListFile(path);
+}
 
 // Renames a regular file that could not be used to
 // "<name>.damaged-<yyyyMMdd-HHmmss>" beside it and says so, with the reason,

@@ -151,6 +151,8 @@ TEST_F(PreferencesTest, SharedFolderIsCreatedOnFirstUse)
     value.insert("WatermarkList", PropertyValue(PropertyArray{PropertyValue("Draft")}));
     ASSERT_TRUE(WriteXMLData("com.orvan.printing.watermarks.plist", value));
     EXPECT_EQ(*CopyXMLData("com.orvan.printing.watermarks.plist"), value);
+    EXPECT_EQ(CreatePropertiesFromXMLFile(location), value);
+    EXPECT_EQ(CreatePropertiesFromXMLFile(folder), std::nullopt);
 }
 
 TEST_F(PreferencesTest, SharedFileParseErrorIsReportedWithItsPosition)
@@ -162,6 +164,10 @@ TEST_F(PreferencesTest, SharedFileParseErrorIsReportedWithItsPosition)
     const std::string err = testing::internal::GetCapturedStderr();
     EXPECT_TRUE(err.starts_with("CopyXMLData()::CFPropertyListCreateFromXMLData() error: line 4"))
         << err;
+    // Set aside, so that the next write does not destroy it.
+    const QStringList left = QDir(m_dir.filePath("shared/Orvan")).entryList({"bad.plist*"});
+    ASSERT_EQ(left.size(), 1);
+    EXPECT_TRUE(left[0].startsWith("bad.plist.damaged-")) << left[0].toStdString();
 }
 
 TEST_F(PreferencesTest, NoApplicationSupportFolderGivesNoLocation)
