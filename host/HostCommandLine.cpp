@@ -6,7 +6,7 @@ QString HostUsage()
 {
     return QStringLiteral(
         "usage: orvan-print [--printer QUEUE | --ppd FILE] [--ticket IN.plist] [--save-ticket OUT.plist]\n"
-        "                   [--dump-ticket | --screenshot OUT.png [--tab N]] [FILE...]\n"
+        "                   [--dump-ticket | --screenshot OUT.png [--pane N] [--tab N]] [FILE...]\n"
         "\n"
         "Opens the Print dialog for the Orvan printer features and prints FILE to the chosen queue.\n"
         "  --printer QUEUE       start on this CUPS queue\n"
@@ -15,7 +15,9 @@ QString HostUsage()
         "  --save-ticket OUT     save the job's settings when Print is chosen (or after --dump-ticket)\n"
         "  --dump-ticket         run the dialog headless and print its tickets as a property list\n"
         "  --screenshot OUT.png  render the dialog offscreen to a PNG file\n"
-        "  --tab N               with --screenshot, show panel N (1 = the first)\n");
+        "  --pane N              with --screenshot, show pane N: 1 the printer features (the\n"
+        "                        tabs), 2 Special Pages, 3 Job Notes (the pane pop-up's order)\n"
+        "  --tab N               with --screenshot, show the features' tab N (1 = the first)\n");
 }
 
 std::optional<HostCommandLine> ParseHostCommandLine(const QStringList& arguments, QString* error)
@@ -54,6 +56,11 @@ std::optional<HostCommandLine> ParseHostCommandLine(const QStringList& arguments
             bool ok = false;
             if (!value(&text) || (line.tab = text.toInt(&ok), !ok) || line.tab < 1)
                 return fail(QStringLiteral("--tab needs a panel number from 1"));
+        } else if (arg == QLatin1String("--pane")) {
+            QString text;
+            bool ok = false;
+            if (!value(&text) || (line.pane = text.toInt(&ok), !ok) || line.pane < 1)
+                return fail(QStringLiteral("--pane needs a pane number from 1"));
         } else if (arg == QLatin1String("--dump-ticket")) {
             line.dumpTicket = true;
         } else if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
@@ -71,6 +78,8 @@ std::optional<HostCommandLine> ParseHostCommandLine(const QStringList& arguments
         return fail(QStringLiteral("--printer and --ppd cannot be used together"));
     if (line.dumpTicket && !line.screenshotPath.isEmpty())
         return fail(QStringLiteral("--dump-ticket and --screenshot cannot be used together"));
+    if (line.pane > 0 && line.screenshotPath.isEmpty())
+        return fail(QStringLiteral("--pane goes with --screenshot"));
     if (line.tab > 0 && line.screenshotPath.isEmpty())
         return fail(QStringLiteral("--tab goes with --screenshot"));
     return line;

@@ -16,6 +16,7 @@ struct HostCommandLine {
     bool dumpTicket = false; // --dump-ticket
     QString screenshotPath; // --screenshot
     int tab = 0;            // --tab, 0 = the shell's choice
+    int pane = 0;           // --pane, 0 = the shell's pane
     bool help = false;
     QStringList files;
 };

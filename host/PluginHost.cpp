@@ -1,6 +1,7 @@
 #include "host/PluginHost.h"
 
 #include "settings/PropertyList.h"
+#include "shell/PanelNames.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,6 +9,8 @@
 #include <QFileInfo>
 
 #include <dlfcn.h>
+
+#include <cstdio>
 
 #ifndef ORVAN_PLUGIN_BUILD_FOLDER
 #define ORVAN_PLUGIN_BUILD_FOLDER ""
@@ -58,77 +61,95 @@ std::unique_ptr<PluginHost> PluginHost::load(const QString& folder, QString* err
 
     std::unique_ptr<PluginHost> host(new PluginHost);
     host->m_folder = folder;
-    host->m_library = dlopen(QFile::encodeName(libraryPath).constData(), RTLD_NOW | RTLD_LOCAL);
+    host->m_library.reset(dlopen(QFile::encodeName(libraryPath).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
     if (!host->m_library)
         return fail(QStringLiteral("cannot load the plug-in %1: %2").arg(libraryPath, QString::fromLocal8Bit(dlerror())));
-    auto factory = reinterpret_cast<PlugInFactoryFunction>(dlsym(host->m_library, kPlugInFactoryName));
+    auto factory = reinterpret_cast<PlugInFactoryFunction>(dlsym(host->m_library.get(), kPlugInFactoryName));
     if (!factory)
         return fail(QStringLiteral("the plug-in %1 has no %2").arg(libraryPath, QLatin1String(kPlugInFactoryName)));
-    host->m_factory = factory(nullptr, &kPDEPlugInType);
+    host->m_factory.reset(factory(nullptr, &kPDEPlugInType));
     if (!host->m_factory)
         return fail(QStringLiteral("the plug-in %1 refused to make an instance").arg(libraryPath));
     void* object = nullptr;
-    if (host->m_factory->table->QueryInterface(host->m_factory, kDialogExtensionInterfaceID, &object) != kNoError ||
+    if (host->m_factory->table->QueryInterface(host->m_factory.get(), kDialogExtensionInterfaceID, &object) !=
+            kNoError ||
         !object)
         return fail(QStringLiteral("the plug-in %1 answers no dialog-extension interface").arg(libraryPath));
-    host->m_interface = static_cast<PDEInterfaceObject*>(object);
-    host->m_interface->table->GetAPIVersion(host->m_interface, &host->m_version);
+    host->m_panes.push_back(std::make_unique<PaneDriver>(static_cast<PDEInterfaceObject*>(object), QString()));
+    for (const char* const* name = kStandalonePaneInterfaces; *name; ++name) {
+        auto function = reinterpret_cast<PanelInterfaceFunction>(dlsym(host->m_library.get(), *name));
+        PDEInterfaceObject* pane = nullptr;
+        if (!function || function(&pane) != kNoError || !pane) {
+            std::fprintf(stderr, "orvan-print: the plug-in has no pane %s; the dialog goes on without it\n", *name);
+            continue;
+        }
+        host->m_panes.push_back(std::make_unique<PaneDriver>(pane, QLatin1String(*name)));
+    }
     return host;
 }
 
 PluginHost::~PluginHost()
 {
-    if (m_prologDone && !m_terminated)
-        terminate(kNoError);
-    if (m_interface)
-        m_interface->table->Release(&m_interface);
-    if (m_factory)
-        m_factory->table->Release(m_factory);
-    // The library stays loaded: Qt keeps metadata of the plug-in's widget
-    // classes for the life of the process.
+    // Panes terminate in order before the factory and the library go.
+    for (auto& pane : m_panes)
+        pane.reset();
+}
+
+template <class Operation>
+Status PluginHost::forEachRunningPane(Operation&& operation)
+{
+    Status first = kNoError;
+    for (std::size_t i = 0; i < m_panes.size(); ++i) {
+        if (!m_panes[i]->running())
+            continue;
+        const Status status = operation(*m_panes[i], i);
+        if (first == kNoError)
+            first = status;
+    }
+    return first;
 }
 
 Status PluginHost::prolog()
 {
-    const Status status =
-        m_interface->table->Prolog(&m_context, &m_creator, &m_kind, &m_title, &m_maxWidth, &m_maxHeight);
-    m_prologDone = status == kNoError;
-    m_terminated = false;
-    return status;
+    Status first = kNoError;
+    for (auto& pane : m_panes) {
+        const Status status = pane->prolog();
+        if (first == kNoError)
+            first = status;
+    }
+    return first;
 }
 
-Status PluginHost::initialize(QWidget* parent, PrintSession* session)
+Status PluginHost::initialize(const std::vector<QWidget*>& parents, PrintSession* session)
 {
-    std::uint32_t flags = 0;
-    return m_interface->table->Initialize(m_context, &flags, this, parent, session);
+    return forEachRunningPane([&](PaneDriver& pane, std::size_t i) {
+        return pane.initialize(i < parents.size() ? parents[i] : nullptr, session, this);
+    });
 }
 
 Status PluginHost::sync(PrintSession* session, bool direction)
 {
-    return m_interface->table->Sync(m_context, session, direction);
+    return forEachRunningPane([&](PaneDriver& pane, std::size_t) { return pane.sync(session, direction); });
 }
 
 Status PluginHost::summaryText(PropertyValue* titles, PropertyValue* values)
 {
-    return m_interface->table->GetSummaryText(m_context, titles, values);
+    return forEachRunningPane([&](PaneDriver& pane, std::size_t) { return pane.summaryText(titles, values); });
 }
 
 Status PluginHost::open()
 {
-    return m_interface->table->Open(m_context);
+    return forEachRunningPane([](PaneDriver& pane, std::size_t) { return pane.open(); });
 }
 
 Status PluginHost::close()
 {
-    return m_interface->table->Close(m_context);
+    return forEachRunningPane([](PaneDriver& pane, std::size_t) { return pane.close(); });
 }
 
 Status PluginHost::terminate(Status status)
 {
-    const Status result = m_interface->table->Terminate(m_context, status);
-    m_context = nullptr;
-    m_terminated = true;
-    return result;
+    return forEachRunningPane([&](PaneDriver& pane, std::size_t) { return pane.terminate(status); });
 }
 
 } // namespace orvan

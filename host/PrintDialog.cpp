@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace orvan {
@@ -41,8 +42,8 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     : QDialog(parent), m_session(session), m_plugin(plugin), m_printers(std::move(printers)),
       m_options(std::move(options)), m_printerPopup(new QComboBox(this)), m_copies(new QSpinBox(this)),
       m_allPages(new QRadioButton(tr("All"), this)), m_pageRange(new QRadioButton(tr("From:"), this)),
-      m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_paneHolder(new QWidget(this)),
-      m_status(new QLabel(this))
+      m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_panePopup(new QComboBox(this)),
+      m_paneStack(new QStackedWidget(this)), m_status(new QLabel(this))
 {
     setObjectName(QStringLiteral("PrintDialog"));
     setWindowTitle(m_options.files.isEmpty()
@@ -54,7 +55,8 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     m_pageRange->setObjectName(QStringLiteral("PageRangeButton"));
     m_fromPage->setObjectName(QStringLiteral("FromPageField"));
     m_toPage->setObjectName(QStringLiteral("ToPageField"));
-    m_paneHolder->setObjectName(QStringLiteral("PluginPaneHolder"));
+    m_panePopup->setObjectName(QStringLiteral("PanePopup"));
+    m_paneStack->setObjectName(QStringLiteral("PluginPaneHolder"));
     m_status->setObjectName(QStringLiteral("StatusLabel"));
     m_status->setWordWrap(true);
     m_status->setStyleSheet(QStringLiteral("color: palette(mid);"));
@@ -95,8 +97,15 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     form->addRow(tr("Copies:"), copies);
     form->addRow(tr("Pages:"), pages);
 
-    auto* holderLayout = new QVBoxLayout(m_paneHolder);
-    holderLayout->setContentsMargins(0, 0, 0, 0);
+    // The plug-in's panes, one at a time, chosen from a pop-up as in the
+    // system's Print dialogs.
+    auto* paneRow = new QHBoxLayout;
+    paneRow->addStretch(1);
+    paneRow->addWidget(m_panePopup);
+    paneRow->addStretch(1);
+    m_panePopup->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    connect(m_panePopup, &QComboBox::activated, this,
+            [this](int item) { showPane(m_panePopup->itemData(item).toInt()); });
 
     auto* buttons = new QDialogButtonBox(this);
     QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);
@@ -109,7 +118,8 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
-    layout->addWidget(m_paneHolder, 1);
+    layout->addLayout(paneRow);
+    layout->addWidget(m_paneStack, 1);
     layout->addWidget(m_status);
     layout->addWidget(buttons);
 
@@ -122,8 +132,6 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
 PrintDialog::~PrintDialog()
 {
     stopPlugin();
-    if (!m_fetchedPpd.isEmpty())
-        QFile::remove(m_fetchedPpd);
 }
 
 void PrintDialog::showTicketInControls()
@@ -151,11 +159,8 @@ void PrintDialog::writeControlsToTicket()
 bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
 {
     const auto ppd = PpdPathForPrinter(printer, m_plugin.folder(), error);
-    if (!printer.isSample) {
-        if (!m_fetchedPpd.isEmpty())
-            QFile::remove(m_fetchedPpd);
-        m_fetchedPpd = ppd.value_or(QString());
-    }
+    if (!printer.isSample)
+        m_fetchedPpd = TemporaryFile(ppd.value_or(QString()));
     // A queue without a PPD still prints; the panels then show their defaults.
     m_session.setCurrentPrinter(Printer{printer.queueName, ppd.value_or(QString())});
     return ppd.has_value();
@@ -163,18 +168,31 @@ bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
 
 void PrintDialog::startPlugin()
 {
-    m_pane = new QWidget(m_paneHolder);
-    m_pane->setObjectName(QStringLiteral("PluginPane"));
-    m_paneHolder->layout()->addWidget(m_pane);
-    if (m_plugin.prolog() != kNoError) {
+    if (m_plugin.prolog() != kNoError && !m_plugin.shell().running()) {
         fail(tr("The printer features could not be started."));
         return;
     }
-    m_pane->setMinimumSize(static_cast<int>(m_plugin.maxWidth()), static_cast<int>(m_plugin.maxHeight()));
-    m_plugin.initialize(m_pane, &m_session);
+    std::vector<QWidget*> parents;
+    QSize largest;
+    for (const auto& pane : m_plugin.panes()) {
+        auto* widget = new QWidget(m_paneStack);
+        widget->setObjectName(pane->isShell() ? QStringLiteral("PluginPane") : pane->exportedName());
+        m_paneStack->addWidget(widget);
+        parents.push_back(widget);
+        if (pane->running()) {
+            m_panePopup->addItem(pane->title(), static_cast<int>(parents.size() - 1));
+            largest = largest.expandedTo(QSize(static_cast<int>(pane->maxWidth()), static_cast<int>(pane->maxHeight())));
+        }
+    }
+    m_paneStack->setMinimumSize(largest);
+    m_plugin.initialize(parents, &m_session);
     m_plugin.sync(&m_session, true);
     m_plugin.open();
     m_pluginRunning = true;
+    m_currentPane = 0;
+    m_panePopup->setVisible(m_panePopup->count() > 1);
+    m_panePopup->setCurrentIndex(0);
+    m_paneStack->setCurrentIndex(0);
 }
 
 void PrintDialog::stopPlugin()
@@ -184,8 +202,23 @@ void PrintDialog::stopPlugin()
     m_plugin.close();
     m_plugin.terminate(kNoError);
     m_pluginRunning = false;
-    delete m_pane;
-    m_pane = nullptr;
+    m_panePopup->clear();
+    while (QWidget* widget = m_paneStack->widget(0)) {
+        m_paneStack->removeWidget(widget);
+        delete widget;
+    }
+}
+
+void PrintDialog::showPane(int index)
+{
+    const auto& panes = m_plugin.panes();
+    if (!m_pluginRunning || index == m_currentPane || index < 0 || index >= static_cast<int>(panes.size()))
+        return;
+    panes[static_cast<std::size_t>(m_currentPane)]->sync(&m_session, false);
+    panes[static_cast<std::size_t>(index)]->sync(&m_session, true);
+    m_currentPane = index;
+    m_panePopup->setCurrentIndex(m_panePopup->findData(index));
+    m_paneStack->setCurrentIndex(index);
 }
 
 void PrintDialog::choosePrinter(int index)

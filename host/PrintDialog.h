@@ -5,6 +5,7 @@
 
 #include "host/PluginHost.h"
 #include "host/PrinterList.h"
+#include "host/TemporaryFile.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -15,6 +16,7 @@ class QComboBox;
 class QLabel;
 class QRadioButton;
 class QSpinBox;
+class QStackedWidget;
 
 namespace orvan {
 
@@ -35,6 +37,11 @@ public:
     // The message of the last failure to print, for callers and tests.
     QString lastError() const { return m_lastError; }
 
+    // Shows the plug-in's pane at index (0 = the shell's pane), as the pane
+    // pop-up does: the pane leaving the screen writes its values to the
+    // tickets, the one coming reads them.
+    void showPane(int index);
+
 protected:
     void done(int result) override;
 
@@ -52,7 +59,7 @@ private:
     PluginHost& m_plugin;
     std::vector<PrinterEntry> m_printers;
     Options m_options;
-    QString m_fetchedPpd; // temporary PPD fetched from CUPS, removed on close
+    TemporaryFile m_fetchedPpd; // a queue's PPD fetched from CUPS
     QString m_lastError;
     int m_currentPrinter = -1;
     bool m_pluginRunning = false;
@@ -63,8 +70,9 @@ private:
     QRadioButton* m_pageRange;
     QSpinBox* m_fromPage;
     QSpinBox* m_toPage;
-    QWidget* m_paneHolder;
-    QWidget* m_pane = nullptr;
+    QComboBox* m_panePopup;
+    QStackedWidget* m_paneStack;
+    int m_currentPane = 0;
     QLabel* m_status;
 };
 

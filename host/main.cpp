@@ -3,6 +3,7 @@
 #include "host/PluginHost.h"
 #include "host/PrintDialog.h"
 #include "host/PrinterList.h"
+#include "host/TemporaryFile.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/PropertyList.h"
 #include "settings/TicketFile.h"
@@ -66,30 +67,37 @@ std::optional<int> choosePrinter(const HostCommandLine& line, std::vector<Printe
     return static_cast<int>(printers.size()) - 1;
 }
 
-// A temporary file of this run, removed when the run ends.
-struct TemporaryFile {
-    QString path;
-    ~TemporaryFile()
-    {
-        if (!path.isEmpty())
-            QFile::remove(path);
-    }
-};
+// The pane order of this run, as the dump's first comment names it.
+QByteArray paneOrderComment(const PluginHost& plugin)
+{
+    QStringList titles;
+    for (const auto& pane : plugin.panes())
+        if (pane->running())
+            titles << pane->title();
+    return "<!-- panes: " + titles.join(QStringLiteral(", ")).toUtf8().replace("--", "- -") + " -->\n";
+}
 
-// The headless dialog: every operation the Print dialog runs, without a pane,
-// then the tickets on standard output.
+// The headless dialog: every pane goes through the operations the Print
+// dialog runs (Prolog, Initialize without a pane widget, Sync from the
+// tickets, Open, then, as Print does, Sync to the tickets, Close and
+// Terminate), in the dialog's pane order; then the tickets on standard
+// output, after a comment naming the panes in that order.
 int dumpTicket(PluginHost& plugin, PrintSession& session, const QString& saveTo)
 {
     plugin.prolog();
-    plugin.initialize(nullptr, &session);
+    plugin.initialize({}, &session);
     plugin.sync(&session, true);
+    plugin.open();
     plugin.sync(&session, false);
+    const QByteArray panes = paneOrderComment(plugin);
     plugin.close();
     plugin.terminate(kNoError);
     QString why;
-    const auto xml = writePropertyList(sessionToPropertyList(session), &why);
+    auto xml = writePropertyList(sessionToPropertyList(session), &why);
     if (!xml)
         return runtimeError(QStringLiteral("cannot write the tickets: %1").arg(why));
+    const qsizetype root = xml->indexOf("<plist");
+    xml->insert(root < 0 ? 0 : root, panes);
     std::fwrite(xml->constData(), 1, static_cast<size_t>(xml->size()), stdout);
     if (!saveTo.isEmpty() && !saveTicketFile(saveTo, session, &why))
         return runtimeError(why);
@@ -147,7 +155,7 @@ int main(int argc, char** argv)
         QString ppdWhy;
         const auto ppd = PpdPathForPrinter(printer, plugin->folder(), &ppdWhy);
         if (ppd && !printer.queueName.isEmpty())
-            fetchedPpd.path = *ppd;
+            fetchedPpd = TemporaryFile(*ppd);
         session.setCurrentPrinter(Printer{printer.queueName, ppd.value_or(QString())});
         if (!ppd)
             std::fprintf(stderr, "orvan-print: %s; the printer's defaults are used\n", ppdWhy.toLocal8Bit().constData());
@@ -165,6 +173,11 @@ int main(int argc, char** argv)
     if (screenshot) {
         dialog.adjustSize();
         dialog.show();
+        if (line->pane > 0) {
+            if (line->pane > static_cast<int>(plugin->panes().size()))
+                return usageError(QStringLiteral("there is no pane %1").arg(line->pane));
+            dialog.showPane(line->pane - 1);
+        }
         if (line->tab > 0) {
             auto* tabs = dialog.findChild<QTabBar*>(QStringLiteral("ShellTabs"));
             if (!tabs || line->tab > tabs->count())

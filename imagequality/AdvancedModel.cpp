@@ -1,11 +1,12 @@
 #include "imagequality/AdvancedModel.h"
 
-#include "imagequality/PanelText.h"
+#include "shell/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/PrintSession.h"
 #include "settings/SettingMapAccess.h"
 #include "settings/SettingMaps.h"
 #include "settings/Ticket.h"
+#include "shell/PanelSync.h"
 
 namespace orvan {
 
@@ -104,13 +105,9 @@ Status AdvancedModel::handleControlHit(std::int32_t controlID, int item, Advance
 
 Status AdvancedModel::sync(PrintSession* session, bool direction)
 {
-    if (!session)
-        return kSyncMissingContext;
     Ticket* printSettings = nullptr;
-    if (const Status error = GetTicketFromSession(session, kPrintSettingsTicketKey, &printSettings))
+    if (const Status error = GetPrintSettingsForSync(session, &printSettings))
         return error;
-    if (!printSettings)
-        return kBadParameter;
     if (!direction)
         return syncToTicket(*printSettings);
     syncFromTicket(*printSettings);

@@ -31,7 +31,6 @@ class PrintSession;
 class Ticket;
 
 inline const QString kAdvancedTitleKey = QStringLiteral("Advanced");
-inline const QString kAdvancedKind = QStringLiteral("com.orvan.print.pde.orvanfeatureskind");
 
 inline const QString kBookletLayoutOrderKey =
     QStringLiteral("com.orvan.print.AdvancedBookletLayoutOrderStr");

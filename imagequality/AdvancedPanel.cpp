@@ -1,8 +1,8 @@
 #include "imagequality/AdvancedPanel.h"
 
 #include "imagequality/AboutDialog.h"
-#include "imagequality/PanelPane.h"
-#include "imagequality/PanelText.h"
+#include "shell/PanelPane.h"
+#include "shell/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/PopupMenus.h"
@@ -115,50 +115,14 @@ void AdvancedView::controlHit(std::int32_t controlID, int item)
     showModel();
 }
 
-AdvancedPanel::AdvancedPanel() : AdvancedPanel(ShellBundle()) {}
-
-AdvancedPanel::AdvancedPanel(const Bundle* bundle) : m_bundle(bundle) {}
-
-AdvancedPanel::~AdvancedPanel()
-{
-    delete m_view;
-}
-
 PanelBase::Description AdvancedPanel::describe() const
 {
-    Description description;
-    description.kind = kAdvancedKind;
-    description.title = PanelText(m_bundle, kAdvancedTitleKey);
-    return description;
+    return describeAs(kAdvancedTitleKey);
 }
 
-Status AdvancedPanel::initialize(QWidget* parent, PrintSession*)
+Status AdvancedPanel::loadModel(PrintSession*)
 {
-    m_model.load(m_bundle, PPDGetCurrent());
-    if (parent)
-        m_view = new AdvancedView(m_model, m_bundle, parent);
-    return kNoError;
-}
-
-Status AdvancedPanel::sync(PrintSession* session, bool direction)
-{
-    const Status status = m_model.sync(session, direction);
-    if (direction && m_view)
-        m_view->showModel();
-    return status;
-}
-
-Status AdvancedPanel::summaryText(PropertyValue* titles, PropertyValue* values)
-{
-    if (!titles || !values)
-        return kBadParameter;
-    m_model.appendSummary(m_bundle, titles, values);
-    return kNoError;
-}
-
-Status AdvancedPanel::terminate(Status)
-{
-    delete m_view;
+    model().load(bundle(), PPDGetCurrent());
     return kNoError;
 }
 

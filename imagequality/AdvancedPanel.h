@@ -4,9 +4,8 @@
 #pragma once
 
 #include "imagequality/AdvancedModel.h"
-#include "shell/PanelBase.h"
+#include "shell/ModelPanel.h"
 
-#include <QPointer>
 #include <QWidget>
 
 #include <map>
@@ -42,30 +41,17 @@ private:
     QPushButton* m_about;
 };
 
-class AdvancedPanel : public PanelBase
+class AdvancedPanel : public ModelPanel<AdvancedModel, AdvancedView>
 {
 public:
-    // The bundle is the shell's (the plug-in's own) unless given.
-    AdvancedPanel();
-    explicit AdvancedPanel(const Bundle* bundle);
-    ~AdvancedPanel() override;
+    using ModelPanel::ModelPanel;
 
     // Title "Advanced".
     Description describe() const override;
-    // Keeps the current PPD and fills the menus; builds the view when there
-    // is a parent.
-    Status initialize(QWidget* parent, PrintSession* session) override;
-    Status sync(PrintSession* session, bool direction) override;
-    Status summaryText(PropertyValue* titles, PropertyValue* values) override;
-    Status terminate(Status status) override;
 
-    AdvancedModel& model() { return m_model; }
-    AdvancedView* view() const { return m_view; }
-
-private:
-    const Bundle* m_bundle;
-    AdvancedModel m_model;
-    QPointer<AdvancedView> m_view;
+protected:
+    // Keeps the current PPD and fills the menus.
+    Status loadModel(PrintSession* session) override;
 };
 
 } // namespace orvan

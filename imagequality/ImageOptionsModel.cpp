@@ -1,9 +1,10 @@
 #include "imagequality/ImageOptionsModel.h"
 
-#include "imagequality/PanelText.h"
+#include "shell/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/PrintSession.h"
 #include "settings/Ticket.h"
+#include "shell/PanelSync.h"
 
 namespace orvan {
 
@@ -31,13 +32,9 @@ void ImageOptionsModel::load(ppd_file_t* ppd)
 
 Status ImageOptionsModel::sync(PrintSession* session, bool direction, InvertImageControls controls)
 {
-    if (!session)
-        return kSyncMissingContext;
     Ticket* printSettings = nullptr;
-    if (const Status error = GetTicketFromSession(session, kPrintSettingsTicketKey, &printSettings))
+    if (const Status error = GetPrintSettingsForSync(session, &printSettings))
         return error;
-    if (!printSettings)
-        return kBadParameter;
     if (direction) {
         syncResolutionToUI(*printSettings);
         syncTonerSaverToUI(*printSettings);

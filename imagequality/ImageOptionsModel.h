@@ -22,7 +22,6 @@ class Bundle;
 class PrintSession;
 class Ticket;
 
-inline const QString kImageOptionsKind = QStringLiteral("com.orvan.print.pde.orvanfeatureskind");
 inline const QString kImageOptionsTitleKey = QStringLiteral("Image Options");
 inline constexpr std::uint32_t kImageOptionsCreator = FourCharCode("Qshl");
 

@@ -1,7 +1,7 @@
 #include "imagequality/ImageOptionsPanel.h"
 
-#include "imagequality/PanelPane.h"
-#include "imagequality/PanelText.h"
+#include "shell/PanelPane.h"
+#include "shell/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/Bundle.h"
 #include "ui/LocalizedTitles.h"
@@ -149,55 +149,23 @@ void ImageOptionsView::showPicture(QLabel* label, const QString& name)
     label->setPixmap(path.isEmpty() ? QPixmap() : QPixmap(path));
 }
 
-ImageOptionsPanel::ImageOptionsPanel() : ImageOptionsPanel(ShellBundle()) {}
-
-ImageOptionsPanel::ImageOptionsPanel(const Bundle* bundle) : m_bundle(bundle) {}
-
-ImageOptionsPanel::~ImageOptionsPanel()
-{
-    delete m_view;
-}
-
 PanelBase::Description ImageOptionsPanel::describe() const
 {
-    Description description;
-    description.kind = kImageOptionsKind;
-    description.title = PanelText(m_bundle, kImageOptionsTitleKey);
-    description.creator = kImageOptionsCreator;
-    return description;
+    return describeAs(kImageOptionsTitleKey, kImageOptionsCreator);
 }
 
-Status ImageOptionsPanel::initialize(QWidget* parent, PrintSession*)
+Status ImageOptionsPanel::loadModel(PrintSession*)
 {
-    m_model.load(PPDGetCurrent());
-    if (parent)
-        m_view = new ImageOptionsView(m_model, m_bundle, parent);
+    model().load(PPDGetCurrent());
     return kNoError;
 }
 
-Status ImageOptionsPanel::sync(PrintSession* session, bool direction)
+Status ImageOptionsPanel::syncModel(PrintSession* session, bool direction)
 {
     // Without its view the panel has no invert-image controls, so writing
     // stores both flags as 0: the flags come from the controls' presence.
-    const InvertImageControls controls = m_view ? m_view->controls() : InvertImageControls{};
-    const Status status = m_model.sync(session, direction, controls);
-    if (direction && m_view)
-        m_view->showModel();
-    return status;
-}
-
-Status ImageOptionsPanel::summaryText(PropertyValue* titles, PropertyValue* values)
-{
-    if (!titles || !values)
-        return kBadParameter;
-    m_model.appendSummary(m_bundle, titles, values);
-    return kNoError;
-}
-
-Status ImageOptionsPanel::terminate(Status)
-{
-    delete m_view;
-    return kNoError;
+    const InvertImageControls controls = view() ? view()->controls() : InvertImageControls{};
+    return model().sync(session, direction, controls);
 }
 
 } // namespace orvan

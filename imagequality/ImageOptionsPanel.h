@@ -4,9 +4,8 @@
 #pragma once
 
 #include "imagequality/ImageOptionsModel.h"
-#include "shell/PanelBase.h"
+#include "shell/ModelPanel.h"
 
-#include <QPointer>
 #include <QWidget>
 
 class QCheckBox;
@@ -50,32 +49,20 @@ private:
     QLabel* m_invertImagePicture;
 };
 
-class ImageOptionsPanel : public PanelBase
+class ImageOptionsPanel : public ModelPanel<ImageOptionsModel, ImageOptionsView>
 {
 public:
-    // The bundle is the shell's (the plug-in's own) unless given.
-    ImageOptionsPanel();
-    explicit ImageOptionsPanel(const Bundle* bundle);
-    ~ImageOptionsPanel() override;
+    using ModelPanel::ModelPanel;
 
     // Title "Image Options", creator 'Qshl'.
     Description describe() const override;
-    // Keeps the current PPD and fills the resolution menu; builds the view
-    // when there is a parent.
-    Status initialize(QWidget* parent, PrintSession* session) override;
-    // Reading shows the new values in the view; writing takes the
-    // invert-image flags from which controls exist (none when headless).
-    Status sync(PrintSession* session, bool direction) override;
-    Status summaryText(PropertyValue* titles, PropertyValue* values) override;
-    Status terminate(Status status) override;
 
-    ImageOptionsModel& model() { return m_model; }
-    ImageOptionsView* view() const { return m_view; }
-
-private:
-    const Bundle* m_bundle;
-    ImageOptionsModel m_model;
-    QPointer<ImageOptionsView> m_view;
+protected:
+    // Keeps the current PPD and fills the resolution menu.
+    Status loadModel(PrintSession* session) override;
+    // Writing takes the invert-image flags from which controls exist (none
+    // when headless).
+    Status syncModel(PrintSession* session, bool direction) override;
 };
 
 } // namespace orvan

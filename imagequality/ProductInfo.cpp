@@ -1,6 +1,6 @@
 #include "imagequality/ProductInfo.h"
 
-#include "imagequality/PanelText.h"
+#include "shell/PanelText.h"
 #include "settings/Bundle.h"
 
 namespace orvan {

@@ -16,9 +16,11 @@ constexpr std::uint32_t FourCharCode(const char (&code)[5])
            static_cast<std::uint32_t>(static_cast<unsigned char>(code[3]));
 }
 
-// The "no value" marker of 32-bit setting fields; a menu row carrying it is a
-// default row ("PrinterDefault" / "UseJobSetting").
-inline constexpr std::int32_t kUnsetValue = INT32_MIN;
+// The "no value" marker of 32-bit setting fields. Fields that hold it are
+// left out of dictionaries (in a special page's stock they mean "inherit from
+// the job"); a menu row carrying it is a default row ("PrinterDefault" /
+// "UseJobSetting").
+inline constexpr std::int32_t kUnset = INT32_MIN;
 
 // One row of a setting map. A map is an array of rows ended by a terminator
 // row whose key is null and whose ticket value is 0. Menu items are numbered

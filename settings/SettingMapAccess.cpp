@@ -71,7 +71,7 @@ const char* LocalizedKeyForTicketValue(const _SettingMap* map, std::int32_t valu
 
 QString MenuTextKeyForRow(const _SettingMap& row, int jobContext)
 {
-    if (row.ticketValue == kUnsetValue)
+    if (row.ticketValue == kUnset)
         return jobContext == 0 ? QStringLiteral("PrinterDefault") : QStringLiteral("UseJobSetting");
     return QString::fromUtf8(row.key);
 }

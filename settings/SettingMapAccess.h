@@ -36,7 +36,7 @@ int TicketToUI(const _SettingMap* map, std::int32_t value);
 const char* LocalizedKeyForTicketValue(const _SettingMap* map, std::int32_t value);
 
 // The text key a row shows: its own key, or for the default row (value
-// kUnsetValue) "PrinterDefault" at job context 0 and "UseJobSetting" in any
+// kUnset) "PrinterDefault" at job context 0 and "UseJobSetting" in any
 // other context.
 QString MenuTextKeyForRow(const _SettingMap& row, int jobContext);
 

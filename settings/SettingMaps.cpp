@@ -370,7 +370,7 @@ constexpr PPDChoiceMap _OutputBinMap[] = {
     {"Booklet", 7},
     {"Middle", 11},
     {"Middle2", 15},
-    {"PrinterDefault", kUnsetValue},
+    {"PrinterDefault", kUnset},
     {"Center", 5},
     {"Bottom", 5},
     {"EnvFolder", 13},

@@ -21,6 +21,14 @@ inline constexpr Status kEventNotHandled = -9874;
 inline constexpr Status kTicketItemNotFound = -9589;
 // A ticket item is locked and cannot be replaced or removed.
 inline constexpr Status kTicketItemLocked = -9590;
+// A file or resource was not found (a help page, the bundle's help folder).
+inline constexpr Status kFileNotFound = -43;
+// The shell consumed the dialog's OK command (a notice or the fax setup ran
+// instead of printing), so the dialog stays open.
+inline constexpr Status kOkCommandConsumed = -12345678;
+// An operation stopped at the plug-in boundary by a C++ exception that its
+// code did not handle; the host keeps running and sees this status.
+inline constexpr Status kUnexpectedFailure = -9536;
 // Query-interface for an interface the object does not offer.
 inline constexpr Status kNoSuchInterface = static_cast<Status>(0x80000004u);
 

@@ -119,5 +119,7 @@ using PanelInterfaceFunction = Status (*)(PDEInterfaceObject** panel);
 
 inline constexpr const char* kPlugInFactoryName = "OrvanPDEPluginFactory";
 inline constexpr std::uint32_t kPaneKindCreator = 0x70646520; // 'pde '
+// The kind every pane of this plug-in reports in Prolog, the shell's and its panels'.
+inline const QString kOrvanPaneKind = QStringLiteral("com.orvan.print.pde.orvanfeatureskind");
 
 } // namespace orvan

@@ -22,7 +22,6 @@ namespace {
 
 PDEShellContext* g_shellContext = nullptr;
 
-const QString kShellKind = QStringLiteral("com.orvan.print.pde.orvanfeatureskind");
 const QString kShellTitleKey = QStringLiteral("PDE Shell");
 constexpr std::uint32_t kShellMaxWidth = 540;
 constexpr std::uint32_t kShellMaxHeight = 491;
@@ -71,7 +70,7 @@ Status ShellProlog(const Bundle* bundle, const char* const* names, const PanelRe
     if (title)
         *title = shell->title;
     if (kind)
-        *kind = kShellKind;
+        *kind = kOrvanPaneKind;
     if (creator)
         *creator = kPaneKindCreator;
     LoadBuiltInPanels(shell, names, resolve);
@@ -279,7 +278,7 @@ OkGuardDecision ShellOkGuard(PDEShellContext* context)
 
 Status ConsumedOkResult()
 {
-    return RunningOn105OrLater() ? -12345678 : kNoError;
+    return RunningOn105OrLater() ? kOkCommandConsumed : kNoError;
 }
 
 } // namespace orvan

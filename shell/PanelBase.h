@@ -1,8 +1,10 @@
 // The base of this plug-in's panels and the table of operations that drives
 // them. A panel's context is the panel object itself: Prolog creates it,
-// Terminate deletes it, the other operations dispatch to it.
+// Terminate deletes it, the other operations dispatch to it. Every operation
+// runs behind the exception guard, so no exception leaves a panel.
 #pragma once
 
+#include "shell/ExceptionGuard.h"
 #include "shell/PDEShell.h"
 
 #include <QString>
@@ -65,24 +67,26 @@ template <class Panel>
 Status prolog(PDEContext* context, std::uint32_t* creator, QString* kind, QString* title, std::uint32_t* maxWidth,
               std::uint32_t* maxHeight)
 {
-    if (!context)
-        return kBadParameter;
-    auto* panel = new (std::nothrow) Panel;
-    if (!panel)
-        return kMissingContext;
-    const PanelBase::Description description = panel->describe();
-    *context = static_cast<PanelContextBase*>(static_cast<PanelBase*>(panel));
-    if (creator)
-        *creator = description.creator;
-    if (kind)
-        *kind = description.kind;
-    if (title)
-        *title = description.title;
-    if (maxWidth)
-        *maxWidth = description.maxWidth;
-    if (maxHeight)
-        *maxHeight = description.maxHeight;
-    return kNoError;
+    return GuardedStatus("panel Prolog", [&] {
+        if (!context)
+            return kBadParameter;
+        auto* panel = new (std::nothrow) Panel;
+        if (!panel)
+            return kMissingContext;
+        const PanelBase::Description description = panel->describe();
+        *context = static_cast<PanelContextBase*>(static_cast<PanelBase*>(panel));
+        if (creator)
+            *creator = description.creator;
+        if (kind)
+            *kind = description.kind;
+        if (title)
+            *title = description.title;
+        if (maxWidth)
+            *maxWidth = description.maxWidth;
+        if (maxHeight)
+            *maxHeight = description.maxHeight;
+        return kNoError;
+    });
 }
 
 inline Status initialize(PDEContext context, std::uint32_t* flags, void*, QWidget* parent, PrintSession* session)
@@ -91,32 +95,35 @@ inline Status initialize(PDEContext context, std::uint32_t* flags, void*, QWidge
         return kMissingContext;
     if (flags)
         *flags = 0;
-    return panelOf(context)->initialize(parent, session);
+    return GuardedStatus("panel Initialize", [&] { return panelOf(context)->initialize(parent, session); });
 }
 inline Status sync(PDEContext context, PrintSession* session, bool direction)
 {
     if (!context || !session)
         return kSyncMissingContext;
-    return panelOf(context)->sync(session, direction);
+    return GuardedStatus("panel Sync", [&] { return panelOf(context)->sync(session, direction); });
 }
 inline Status summaryText(PDEContext context, PropertyValue* titles, PropertyValue* values)
 {
-    return context ? panelOf(context)->summaryText(titles, values) : kMissingContext;
+    if (!context)
+        return kMissingContext;
+    return GuardedStatus("panel GetSummaryText", [&] { return panelOf(context)->summaryText(titles, values); });
 }
 inline Status open(PDEContext context)
 {
-    return context ? panelOf(context)->open() : kMissingContext;
+    return context ? GuardedStatus("panel Open", [&] { return panelOf(context)->open(); }) : kMissingContext;
 }
 inline Status close(PDEContext context)
 {
-    return context ? panelOf(context)->close() : kMissingContext;
+    return context ? GuardedStatus("panel Close", [&] { return panelOf(context)->close(); }) : kMissingContext;
 }
+// The panel is deleted even when its own terminate throws.
 inline Status terminate(PDEContext context, Status status)
 {
     if (!context)
         return kMissingContext;
     PanelBase* panel = panelOf(context);
-    const Status result = panel->terminate(status);
+    const Status result = GuardedStatus("panel Terminate", [&] { return panel->terminate(status); });
     delete panel;
     return result;
 }

@@ -8,7 +8,7 @@ constexpr _SettingMap Row(const char* key, std::int32_t value)
 {
     return {key, value, 0, nullptr, 0};
 }
-constexpr _SettingMap kDefaultRow = Row("PrinterDefault", kUnsetValue);
+constexpr _SettingMap kDefaultRow = Row("PrinterDefault", kUnset);
 constexpr _SettingMap kEndOfMap = Row(nullptr, 0);
 
 constexpr std::int32_t kTabStockType = 24;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "settings/PropertyValue.h"
+#include "settings/SettingMap.h"
 
 #include <QString>
 
@@ -12,9 +13,6 @@
 
 namespace orvan {
 
-// No value set. Fields that hold it are left out of dictionaries, and in a
-// special page's stock they mean "inherit from the job".
-inline constexpr std::int32_t kUnset = std::numeric_limits<std::int32_t>::min();
 
 // Size value of a custom size (width and length then count).
 inline constexpr std::int32_t kCustomPageSize = 75;

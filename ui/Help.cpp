@@ -74,7 +74,7 @@ Status HelpUrl(const Bundle* bundle, const QString& page, const QString& anchor,
         bundle->resourcesPath() + QLatin1Char('/') +
         (folder && folder->isString() ? folder->toString() : QStringLiteral("help"));
     if (!QFileInfo(book).isDir())
-        return kHelpPageNotFound;
+        return kFileNotFound;
 
     QString target = page;
     if (target.isEmpty())
@@ -82,7 +82,7 @@ Status HelpUrl(const Bundle* bundle, const QString& page, const QString& anchor,
     const QString path = QDir::cleanPath(book + QLatin1Char('/') + target);
     // A page outside the book (a "../" path) is no page of it.
     if (!path.startsWith(QDir::cleanPath(book) + QLatin1Char('/')) || !QFileInfo(path).isFile())
-        return kHelpPageNotFound;
+        return kFileNotFound;
 
     QUrl result = QUrl::fromLocalFile(path);
     if (!anchor.isEmpty())

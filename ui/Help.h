@@ -13,8 +13,6 @@ namespace orvan {
 
 class Bundle;
 
-// The help page (or the folder holding the book) does not exist.
-inline constexpr Status kHelpPageNotFound = -43;
 // The page exists but the browser could not be started.
 inline constexpr Status kHelpNotOpened = -1;
 
@@ -26,7 +24,7 @@ using HelpUrlOpener = std::function<bool(const QUrl&)>;
 // previous one.
 HelpUrlOpener SetHelpUrlOpener(HelpUrlOpener opener);
 
-// The URL DisplayHelp opens, or kBadParameter / kHelpPageNotFound. The book
+// The URL DisplayHelp opens, or kBadParameter / kFileNotFound (the page or the book's folder does not exist). The book
 // is <Resources>/<CFBundleHelpBookFolder, "help" when absent>/. A page is a
 // path inside the book. With no page, an anchor is looked up in the book's
 // pages (an element with that id or name; the start page is searched first)

@@ -32,10 +32,15 @@ PluginHost& Plugin()
     return *plugin;
 }
 
-void OpenAndClose(PluginHost& plugin, PrintSession& session, QWidget* parent)
+// window null: headless; otherwise every pane gets a widget inside it.
+void OpenAndClose(PluginHost& plugin, PrintSession& session, QWidget* window)
 {
     plugin.prolog();
-    plugin.initialize(parent, &session);
+    std::vector<QWidget*> parents;
+    if (window)
+        for (std::size_t i = 0; i < plugin.panes().size(); ++i)
+            parents.push_back(new QWidget(window));
+    plugin.initialize(parents, &session);
     plugin.sync(&session, true);
     plugin.open();
     plugin.close();

@@ -2,6 +2,8 @@
 // the Print dialog loads it. The plug-in and this test share the core
 // library, so the factory registry seen here is the plug-in's own.
 #include "shell/PDEInterface.h"
+#include "shell/PDEShell.h"
+#include "shell/PanelNames.h"
 #include "shell/PlugInRegistry.h"
 
 #include <gtest/gtest.h>
@@ -18,9 +20,9 @@ protected:
     void SetUp() override
     {
         // Never closed: Qt keeps metadata of the plug-in's classes.
-        void* library = dlopen(ORVAN_PLUGIN_DIR "/OrvanFeatures.so", RTLD_NOW | RTLD_LOCAL);
-        ASSERT_TRUE(library) << dlerror();
-        m_factory = reinterpret_cast<PlugInFactoryFunction>(dlsym(library, kPlugInFactoryName));
+        m_library = dlopen(ORVAN_PLUGIN_DIR "/OrvanFeatures.so", RTLD_NOW | RTLD_LOCAL);
+        ASSERT_TRUE(m_library) << dlerror();
+        m_factory = reinterpret_cast<PlugInFactoryFunction>(dlsym(m_library, kPlugInFactoryName));
         ASSERT_TRUE(m_factory);
         m_baseline = InstanceCountForFactory(kOrvanFactoryID);
     }
@@ -28,9 +30,36 @@ protected:
     // How many instances hold the factory beyond those before the test.
     int registered() const { return InstanceCountForFactory(kOrvanFactoryID) - m_baseline; }
 
+    void* m_library = nullptr;
     PlugInFactoryFunction m_factory = nullptr;
     int m_baseline = 0;
 };
+
+// Every name the shell's table and the host's pane list give is exported,
+// and hands out a panel whose table has all ten operations.
+TEST_F(PluginFactory, EveryListedPanelFunctionIsExported)
+{
+    std::vector<const char*> names;
+    for (const char* const* name = _PanelInterfaces; *name; ++name)
+        names.push_back(*name);
+    for (const char* const* name = kStandalonePaneInterfaces; *name; ++name)
+        names.push_back(*name);
+    ASSERT_GE(names.size(), 2u);
+    for (const char* name : names) {
+        SCOPED_TRACE(name);
+        auto function = reinterpret_cast<PanelInterfaceFunction>(dlsym(m_library, name));
+        ASSERT_TRUE(function) << "not exported";
+        PDEInterfaceObject* panel = nullptr;
+        ASSERT_EQ(function(&panel), kNoError);
+        ASSERT_TRUE(panel && panel->table);
+        const PDEInterfaceTable& t = *panel->table;
+        for (const void* slot : {(const void*)t.Retain, (const void*)t.Release, (const void*)t.GetAPIVersion,
+                                 (const void*)t.Prolog, (const void*)t.Initialize, (const void*)t.Sync,
+                                 (const void*)t.GetSummaryText, (const void*)t.Open, (const void*)t.Close,
+                                 (const void*)t.Terminate})
+            EXPECT_TRUE(slot);
+    }
+}
 
 TEST_F(PluginFactory, MakesInstancesOnlyForThePlugInType)
 {

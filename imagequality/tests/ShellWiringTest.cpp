@@ -31,7 +31,7 @@ TEST(ShellWiring, TabsNavigationSyncAndSummary)
     SetPpdChoice(session, "JCLBanner", "True");
     QWidget window;
     ASSERT_EQ(plugin->prolog(), kNoError);
-    ASSERT_EQ(plugin->initialize(&window, &session), kNoError);
+    ASSERT_EQ(plugin->initialize({&window}, &session), kNoError); // the shell's pane
     ASSERT_EQ(plugin->sync(&session, true), kNoError);
 
     auto* tabs = window.findChild<QTabBar*>("ShellTabs");

@@ -18,7 +18,7 @@ TEST(PPDChoiceValues, FirstMatchingRowWinsBothWays)
 {
     const std::tuple<const char*, const char*, std::int32_t> toValue[] = {
         // clang-format off
-        {"InputSlot", "Bypass", 100}, {"OutputBin", "Bottom", 5}, {"OutputBin", "PrinterDefault", kUnsetValue},
+        {"InputSlot", "Bypass", 100}, {"OutputBin", "Bottom", 5}, {"OutputBin", "PrinterDefault", kUnset},
         {"PageSize", "Custom", 75}, {"PageSize", "3x5", 80}, {"QVSlipSheetType", "CardStockF", 43},
         {"MediaType", "CardStock", 12}, // the second "CardStock" row (43) is never reached
         {"QVFrontCoverSheet", "Tray3", 3}, {"QVImageQuality", "Darken5", 5},
@@ -33,7 +33,7 @@ TEST(PPDChoiceValues, FirstMatchingRowWinsBothWays)
         // clang-format off
         {"OutputBin", 5, "Upper"}, {"MediaType", 43, "CardStock"}, {"QVFrontCoverSheet", 0, "Auto"},
         {"QVSlipSheetSource", 100, "Bypass"}, {"Jog", 0, "None"}, {"QVImageQuality", -1, "Lighten1"},
-        {"OutputBin", kUnsetValue, "PrinterDefault"}, {"PageSize", 80, "3x5"}, {"OutputBin", 99, nullptr},
+        {"OutputBin", kUnset, "PrinterDefault"}, {"PageSize", 80, "3x5"}, {"OutputBin", 99, nullptr},
         {"NoSuchKeyword", 1, nullptr},
         // clang-format on
     };

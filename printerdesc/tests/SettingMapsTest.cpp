@@ -145,7 +145,7 @@ constexpr std::uint32_t kRowCommand = FourCharCode("Wnew"), kOverride = FourChar
 // without a text, a row gated on job storage.
 constexpr _SettingMap kRowKinds[] = {{"PrinterDefault", -7, kRowCommand, nullptr, 0},
                                      {"-", -5, 0, nullptr, 0},
-                                     {"Ignored", kUnsetValue, 0, nullptr, 0},
+                                     {"Ignored", kUnset, 0, nullptr, 0},
                                      {"NoSuchKeyAnywhere", 2, 0, nullptr, 0},
                                      {"SavedJob", 3, 0, "JobStorage", 1},
                                      {}};
@@ -162,7 +162,7 @@ TEST(MapMenus, ItemsFromEveryKindOfRow)
     EXPECT_EQ(menu.items(), (std::vector<MenuItem>{{"kept", 0, 0, false},
                                                    {"Printer Default", kRowCommand, -7, false},
                                                    {"-", 0, -5, true},
-                                                   {"Printer Default", 0, kUnsetValue, false},
+                                                   {"Printer Default", 0, kUnset, false},
                                                    {kStringNotFound, 0, 2, false}}));
     // The pop-up form starts afresh; an override replaces every command.
     EXPECT_EQ(PopulatePopupMenuFromMap(&bundle, menu, kRowKinds, 0, kOverride), 5);

@@ -2,6 +2,7 @@
 // counts, the shell's dialog-extension interface objects, GetPDEBundle and
 // PDESync. Everything here is exported by name.
 #include "settings/Bundle.h"
+#include "shell/ExceptionGuard.h"
 #include "shell/PDEInterface.h"
 #include "shell/PDEShell.h"
 #include "shell/PlugInRegistry.h"
@@ -78,7 +79,7 @@ std::uint32_t factoryRelease(PlugInInstance* self)
     return instance->refCount;
 }
 
-Status factoryQueryInterface(PlugInInstance* self, Uuid interfaceID, void** object)
+Status queryInterface(PlugInInstance* self, Uuid interfaceID, void** object)
 {
     if (!object)
         return kBadParameter;
@@ -106,6 +107,11 @@ Status factoryQueryInterface(PlugInInstance* self, Uuid interfaceID, void** obje
     return kNoSuchInterface;
 }
 
+Status factoryQueryInterface(PlugInInstance* self, Uuid interfaceID, void** object)
+{
+    return GuardedStatus("QueryInterface", [&] { return queryInterface(self, interfaceID, object); });
+}
+
 // The folder that holds this library.
 QString pluginFolder()
 {
@@ -121,34 +127,39 @@ extern "C" {
 
 __attribute__((visibility("default"))) PlugInInstance* OrvanPDEPluginFactory(void*, const Uuid* requestedType)
 {
-    if (!requestedType || *requestedType != kPDEPlugInType)
-        return nullptr;
-    auto* instance = new (std::nothrow) FactoryInstance;
-    if (!instance)
-        return nullptr;
-    instance->inlineTable = PlugInInstanceTable{nullptr, factoryQueryInterface, factoryAddRef, factoryRelease};
-    instance->table = &instance->inlineTable;
-    instance->factoryID = kOrvanFactoryID;
-    instance->refCount = 1;
-    AddInstanceForFactory(instance->factoryID);
-    return reinterpret_cast<PlugInInstance*>(instance);
+    return GuardedCall<PlugInInstance*>("the plug-in factory", nullptr, [&]() -> PlugInInstance* {
+        if (!requestedType || *requestedType != kPDEPlugInType)
+            return nullptr;
+        auto* instance = new (std::nothrow) FactoryInstance;
+        if (!instance)
+            return nullptr;
+        instance->inlineTable = PlugInInstanceTable{nullptr, factoryQueryInterface, factoryAddRef, factoryRelease};
+        instance->table = &instance->inlineTable;
+        instance->factoryID = kOrvanFactoryID;
+        instance->refCount = 1;
+        AddInstanceForFactory(instance->factoryID);
+        return reinterpret_cast<PlugInInstance*>(instance);
+    });
 }
 
 // The plug-in's bundle: the folder this library lives in, opened once.
 __attribute__((visibility("default"))) const Bundle* GetPDEBundle()
 {
-    static const std::unique_ptr<Bundle> bundle = [] {
-        auto opened = std::make_unique<Bundle>(pluginFolder());
-        return opened->identifier() == kBundleIdentifier ? std::move(opened) : std::unique_ptr<Bundle>();
-    }();
-    return bundle.get();
+    return GuardedCall<const Bundle*>("GetPDEBundle", nullptr, [] {
+        static const std::unique_ptr<Bundle> bundle = [] {
+            auto opened = std::make_unique<Bundle>(pluginFolder());
+            return opened->identifier() == kBundleIdentifier ? std::move(opened) : std::unique_ptr<Bundle>();
+        }();
+        return static_cast<const Bundle*>(bundle.get());
+    });
 }
 
 // Runs the shell's Sync on the shell context and the current print session
 // (the session argument is not used), so a panel can force a full sync.
 __attribute__((visibility("default"))) Status PDESync(PrintSession*, bool direction)
 {
-    return ShellSync(CurrentShellContext(), GetCurrentPrintSession(), direction);
+    return GuardedStatus("PDESync",
+                         [&] { return ShellSync(CurrentShellContext(), GetCurrentPrintSession(), direction); });
 }
 
 } // extern "C"

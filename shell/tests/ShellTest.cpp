@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <new>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -82,6 +84,18 @@ public:
     PrintGuardSource* printGuardSource() override { return N == 1 ? &guard() : nullptr; }
 };
 
+// A panel whose code throws: reading runs out of memory, writing fails.
+class ThrowingPanel : public TestPanel<9>
+{
+public:
+    Status sync(PrintSession*, bool direction) override
+    {
+        if (direction)
+            throw std::bad_alloc();
+        throw std::runtime_error("the ticket went away");
+    }
+};
+
 struct RecordingView : ShellView {
     std::vector<std::string> events;
     void setContainerVisible(bool visible) override { events.push_back(visible ? "show container" : "hide container"); }
@@ -95,6 +109,7 @@ struct RecordingView : ShellView {
 
 const char* const kFourPanels[] = {"P1", "P2", "P3", "P4", nullptr};
 const char* const kThreePanels[] = {"P1", "P2", "P3", nullptr};
+const char* const kPanelsWithAThrower[] = {"P1", "Thrower", "P3", nullptr};
 
 PanelInterfaceFunction resolveTestPanel(const char* name)
 {
@@ -103,6 +118,7 @@ PanelInterfaceFunction resolveTestPanel(const char* name)
         {"P2", GetPanelInterface<TestPanel<2>>},
         {"P3", GetPanelInterface<TestPanel<3>>},
         {"P4", GetPanelInterface<TestPanel<4>>},
+        {"Thrower", GetPanelInterface<ThrowingPanel>},
     };
     const auto it = panels.find(name);
     return it == panels.end() ? nullptr : it->second;
@@ -186,6 +202,22 @@ TEST_F(ShellTest, SyncRunsThePanelOnScreenLast)
     calls().clear();
     ASSERT_EQ(ShellSync(m_shell, &m_session, false), kNoError);
     EXPECT_EQ(syncCalls(), (std::vector<Call>{{1, "sync", false}, {3, "sync", false}, {2, "sync", false}}));
+}
+
+TEST_F(ShellTest, AnExceptionInAPanelBecomesAStatusAndTheOtherPanelsStillSync)
+{
+    start(kPanelsWithAThrower);
+    const LoadedPanel& thrower = m_shell->panels[1];
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(thrower.table.Sync(thrower.context, &m_session, false), kUnexpectedFailure);
+    EXPECT_EQ(thrower.table.Sync(thrower.context, &m_session, true), kMissingContext);
+    _lastTabIndex() = 1;
+    EXPECT_EQ(ShellSync(m_shell, &m_session, false), kNoError);
+    const std::string diagnostics = ::testing::internal::GetCapturedStderr();
+    EXPECT_NE(diagnostics.find("panel Sync failed: the ticket went away"), std::string::npos) << diagnostics;
+    EXPECT_NE(diagnostics.find("panel Sync failed: out of memory"), std::string::npos) << diagnostics;
+    EXPECT_EQ(syncCalls(), (std::vector<Call>{{3, "sync", false}, {1, "sync", false}}));
+    EXPECT_TRUE(m_session.printSettings().containsItem(kControllerFamilyKey)) << "the shell's own items still written";
 }
 
 TEST_F(ShellTest, SkippedRecordsTakeNoPartAndMissingSessionIsRefused)
@@ -295,7 +327,7 @@ TEST_F(ShellTest, OkGuardNeedsAPasscodeForSecurePrintAndRecipientsForFax)
     guard().recipients = 0;
     EXPECT_EQ(ShellOkGuard(m_shell), OkGuardDecision::Print);
     EXPECT_EQ(shown.size(), 1u);
-    EXPECT_EQ(ConsumedOkResult(), -12345678);
+    EXPECT_EQ(ConsumedOkResult(), kOkCommandConsumed);
 }
 
 TEST_F(ShellTest, TerminateEndsEveryPanelAndClearsTheProcessWideState)

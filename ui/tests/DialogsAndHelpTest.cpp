@@ -184,8 +184,8 @@ TEST(Help, PagesOpenAtTheirAnchorAndAnchorsAreFoundInTheBook)
         EXPECT_EQ(help.urls[0].fragment(), expected.fragment());
     }
 
-    EXPECT_EQ(DisplayHelp(&bundle, "missing.htm", {}), kHelpPageNotFound);
-    EXPECT_EQ(DisplayHelp(&bundle, "../../Info.plist", {}), kHelpPageNotFound);
+    EXPECT_EQ(DisplayHelp(&bundle, "missing.htm", {}), kFileNotFound);
+    EXPECT_EQ(DisplayHelp(&bundle, "../../Info.plist", {}), kFileNotFound);
     help.opens = false;
     EXPECT_EQ(DisplayHelp(&bundle, {}, {}), kHelpNotOpened);
 }

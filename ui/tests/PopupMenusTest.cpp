@@ -31,7 +31,7 @@ constexpr _SettingMap kMenuMap[] = {
     {"-", -5, 0, nullptr, 0},
     {"UseJobSetting", 3, 0, "NoSuchInstalledFeature", 1},
     {"No Such Key", 4, 0, nullptr, 0},
-    {"Anything", kUnsetValue, 0, nullptr, 0},
+    {"Anything", kUnset, 0, nullptr, 0},
     {nullptr, 0, 0, nullptr, 0},
 };
 
@@ -49,7 +49,7 @@ protected:
             const std::int32_t value = PopupButtonItemTicketValue(&popup, i);
             const std::uint32_t command = PopupButtonItemCommand(&popup, i);
             rows << popup.itemText(i) + ' ' +
-                        (value == kUnsetValue ? "unset" : QString::number(value)) + ' ' +
+                        (value == kUnset ? "unset" : QString::number(value)) + ' ' +
                         (command == kChooseCommand    ? "cho"
                          : command == kHistoryCommand ? "his"
                                                       : QString::number(command));
@@ -140,7 +140,7 @@ TEST_F(PopupMenusTest, MenuActionsAreAppendedWithValueAndCommand)
                        (data.commandId == kChooseCommand ? " cho" : "");
     }
     EXPECT_EQ(actions, QStringList({"kept 0", "Printer Default 1 cho", "- -5", "STRING NOT FOUND 4",
-                                    "Printer Default " + QString::number(kUnsetValue)}));
+                                    "Printer Default " + QString::number(kUnset)}));
 }
 
 } // namespace

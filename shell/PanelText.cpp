@@ -1,8 +1,15 @@
-#include "imagequality/PanelText.h"
+#include "shell/PanelText.h"
 
 #include "settings/Bundle.h"
+#include "shell/PDEShell.h"
 
 namespace orvan {
+
+const Bundle* ShellBundle()
+{
+    const PDEShellContext* shell = CurrentShellContext();
+    return shell ? shell->bundle : nullptr;
+}
 
 QString PanelText(const Bundle* bundle, const QString& key)
 {

@@ -1,6 +1,4 @@
-#include "imagequality/PanelPane.h"
-
-#include "shell/PDEShell.h"
+#include "shell/PanelPane.h"
 
 #include <QVBoxLayout>
 #include <QWidget>
@@ -14,12 +12,6 @@ QBoxLayout* PanelPaneLayout(QWidget* pane)
     auto* layout = new QVBoxLayout(pane);
     layout->setContentsMargins(12, 12, 12, 12);
     return layout;
-}
-
-const Bundle* ShellBundle()
-{
-    const PDEShellContext* shell = CurrentShellContext();
-    return shell ? shell->bundle : nullptr;
 }
 
 } // namespace orvan

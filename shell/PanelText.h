@@ -1,5 +1,6 @@
-// Texts the two image-quality panels share: localised keys (the key itself
-// when the bundle has no text) and the title/value pairs of GetSummaryText.
+// Texts every panel needs: the plug-in's bundle, localised keys (the key
+// itself when the bundle has no text) and the title/value pairs of
+// GetSummaryText.
 #pragma once
 
 #include "settings/PropertyValue.h"
@@ -9,6 +10,9 @@
 namespace orvan {
 
 class Bundle;
+
+// The shell's bundle (the plug-in's own); null outside a shell.
+const Bundle* ShellBundle();
 
 // The text of the key in the default table; the key itself without a bundle
 // or text.
