@@ -48,6 +48,12 @@ struct DirectoryCloser
 };
 using DirectoryPtr = std::unique_ptr<DIR, DirectoryCloser>;
 
+struct StreamCloser
+{
+    void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+using StreamPtr = std::unique_ptr<std::FILE, StreamCloser>;
+
 std::string sizeText(std::size_t bytes)
 {
     return "larger than " + std::to_string(bytes >> 20) + " MiB";
@@ -124,8 +130,19 @@ void removeStaleTemporaries(const std::string& folder, const std::string& prefix
     }
 }
 
+// The process's umask. Read from /proc where it can be: setting it to read it
+// would briefly change it for every thread.
 mode_t umaskValue()
 {
+    if (const StreamPtr status{std::fopen("/proc/self/status", "re")}) {
+        char line[256];
+        unsigned mask = 0;
+        bool found = false;
+        while (!found && std::fgets(line, sizeof line, status.get()))
+            found = std::sscanf(line, "Umask: %o", &mask) == 1;
+        if (found)
+            return static_cast<mode_t>(mask);
+    }
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return mask;
@@ -227,7 +244,9 @@ FileError ReplaceFile(const std::string& path, std::string_view bytes, FilePriva
         return ErrorText(EISDIR);
     if (S_ISBLK(info.st_mode))
         return "a block device, which is not written to";
-    if (S_ISCHR(info.st_mode) || S_ISFIFO(info.st_mode) || S_ISSOCK(info.st_mode)) {
+    if (S_ISSOCK(info.st_mode))
+        return "a socket, which cannot be written as a file";
+    if (S_ISCHR(info.st_mode) || S_ISFIFO(info.st_mode)) {
         FileDescriptor fd(::open(target.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY));
         if (fd.get() < 0)
             return ErrorText(errno);

@@ -40,9 +40,9 @@ enum class FilePrivacy : std::uint8_t
 // Writes bytes to path ("-" is standard output):
 // - a symbolic link is followed (through every link of a chain) and the file
 //   it names is what gets written or created;
-// - a character device, FIFO or socket that exists is written through, as a
-//   shell redirection would;
-// - a folder or block device is refused;
+// - a character device or FIFO that exists is written through, as a shell
+//   redirection would;
+// - a folder, block device or socket is refused;
 // - anything else is replaced atomically: a temporary file beside it named
 //   ".<name>.orvan.<pid>.XXXXXX", synced, given its mode, renamed over it.
 //   Temporaries of that naming whose process is gone are removed first.
