@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -135,6 +136,18 @@ TEST_F(PrintDialogTest, PrinterFromAPpdFileKeepsThatFile)
     clickPrint(*dialog);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
     EXPECT_EQ(m_session.currentPrinter()->ppdPath, ppd);
+}
+
+TEST_F(PrintDialogTest, UnusablePpdIsNamedInTheStatusLine)
+{
+    const QString ppd = m_home.filePath("Broken.ppd");
+    QFile broken(ppd);
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("not a printer description"));
+    broken.close();
+    const auto dialog = makeDialog({PrinterEntry{"Broken", {}, ppd, true, true}});
+    const QString status = field<QLabel>(*dialog, "StatusLabel")->text();
+    EXPECT_TRUE(status.contains("cannot open the PPD file " + ppd + ": ")) << status.toStdString();
+    EXPECT_TRUE(m_session.currentPrinter()->ppdPath.isEmpty());
 }
 
 TEST_F(PrintDialogTest, FailureToPrintShowsWhyAndKeepsTheDialogAndItsFields)
