@@ -5,13 +5,17 @@ namespace orvan {
 QString HostUsage()
 {
     return QStringLiteral(
-        "usage: orvan-print [--printer QUEUE | --ppd FILE] [--ticket IN.plist] [--save-ticket OUT.plist]\n"
-        "                   [--dump-ticket | --screenshot OUT.png [--pane N] [--tab N]] [FILE...]\n"
+        "usage: orvan-print [--printer QUEUE|URI | --ppd FILE] [--ticket IN.plist] [--preset NAME]\n"
+        "                   [--save-ticket OUT.plist]\n"
+        "                   [--print | --dump-ticket | --screenshot OUT.png [--pane N] [--tab N]] [FILE...]\n"
         "\n"
         "Opens the Print dialog for the Orvan printer features and prints FILE to the chosen queue.\n"
-        "  --printer QUEUE       start on this CUPS queue\n"
+        "  --printer QUEUE|URI   start on this CUPS queue, or print straight to the IPP printer\n"
+        "                        at this address (ipp://host:port/ipp/print)\n"
         "  --ppd FILE            start on a printer described by this PPD file (no queue)\n"
         "  --ticket IN.plist     start from the settings saved in this ticket file\n"
+        "  --preset NAME         start from the settings of this preset\n"
+        "  --print               print FILE with the settings, without the dialog; prints the job id\n"
         "  --save-ticket OUT     save the job's settings when Print is chosen (or after --dump-ticket)\n"
         "  --dump-ticket         run the dialog headless and print its tickets as a property list\n"
         "  --screenshot OUT.png  render the dialog offscreen to a PNG file\n"
@@ -56,6 +60,11 @@ std::optional<HostCommandLine> ParseHostCommandLine(const QStringList& arguments
             bool ok = false;
             if (!value(&text) || (line.tab = text.toInt(&ok), !ok) || line.tab < 1)
                 return fail(QStringLiteral("--tab needs a panel number from 1"));
+        } else if (arg == QLatin1String("--preset")) {
+            if (!value(&line.preset))
+                return fail(QStringLiteral("--preset needs a preset name"));
+        } else if (arg == QLatin1String("--print")) {
+            line.print = true;
         } else if (arg == QLatin1String("--pane")) {
             QString text;
             bool ok = false;
@@ -78,6 +87,10 @@ std::optional<HostCommandLine> ParseHostCommandLine(const QStringList& arguments
         return fail(QStringLiteral("--printer and --ppd cannot be used together"));
     if (line.dumpTicket && !line.screenshotPath.isEmpty())
         return fail(QStringLiteral("--dump-ticket and --screenshot cannot be used together"));
+    if (line.print && (line.dumpTicket || !line.screenshotPath.isEmpty()))
+        return fail(QStringLiteral("--print cannot be used with --dump-ticket or --screenshot"));
+    if (line.print && line.files.isEmpty())
+        return fail(QStringLiteral("--print needs a file to print"));
     if (line.pane > 0 && line.screenshotPath.isEmpty())
         return fail(QStringLiteral("--pane goes with --screenshot"));
     if (line.tab > 0 && line.screenshotPath.isEmpty())

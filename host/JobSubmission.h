@@ -1,37 +1,20 @@
-// Turning a session's tickets into a CUPS job: the PPD choices of the
-// print-settings ticket become job options, with the copies and the page
-// range of the dialog.
+// Sending the session's job to the printer the dialog (or a headless run)
+// has chosen: a CUPS queue, or an IPP printer given by its address.
 #pragma once
 
+#include "host/PrinterList.h"
 #include "settings/PrintSession.h"
+#include "submission/CopiesAndPages.h"
+#include "submission/Submission.h"
 
-#include <QString>
 #include <QStringList>
-
-#include <utility>
-#include <vector>
 
 namespace orvan {
 
-inline const QString kCopiesKey = QStringLiteral("com.apple.print.PrintSettings.PMCopies");
-inline const QString kFirstPageKey = QStringLiteral("com.apple.print.PrintSettings.PMFirstPage");
-inline const QString kLastPageKey = QStringLiteral("com.apple.print.PrintSettings.PMLastPage");
-inline const QString kPrintingManagerClient = QStringLiteral("com.apple.printingmanager");
-// The last page of "all pages".
-inline constexpr int kAllPagesLast = 2147483647;
-
-// Copies and page range as the dialog writes them into the ticket.
-void WriteCopiesAndPages(Ticket& printSettings, int copies, int firstPage, int lastPage);
-int CopiesFromTicket(const Ticket& printSettings);
-std::pair<int, int> PageRangeFromTicket(const Ticket& printSettings);
-
-using JobOptions = std::vector<std::pair<QString, QString>>;
-// The job options of a session: every PPD choice, "copies", and
-// "page-ranges" when not all pages print.
-JobOptions JobOptionsFromSession(const PrintSession& session);
-
-// Submits the files to a CUPS queue; the job id, or 0 with the reason.
-int SubmitJob(const QString& queueName, const QStringList& files, const QString& title, const JobOptions& options,
-              QString* error);
+// The files as the session's job on the printer; the job is named after the
+// first file unless the tickets name it. A printer with neither a queue nor
+// an address (the sample printer, a PPD file) cannot take a job.
+submission::SubmissionResult SubmitSession(const PrintSession& session, const PrinterEntry& printer,
+                                           const QStringList& files);
 
 } // namespace orvan

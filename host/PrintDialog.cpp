@@ -1,6 +1,8 @@
 #include "host/PrintDialog.h"
 
 #include "host/JobSubmission.h"
+#include "host/PresetPopup.h"
+#include "host/Presets.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/TicketFile.h"
 #include "shell/CommandEvent.h"
@@ -13,6 +15,7 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,13 +24,16 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <cstdio>
+
 namespace orvan {
 
 std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error)
 {
     if (!printer.ppdFile.isEmpty())
         return printer.ppdFile;
-    if (printer.isSample) {
+    // An IPP printer given by its address is described by the sample printer.
+    if (printer.isSample || !printer.printerUri.isEmpty()) {
         const QString path = pluginFolder + QStringLiteral("/Resources/") + kSamplePpdResource;
         if (QFileInfo::exists(path))
             return path;
@@ -41,7 +47,8 @@ std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QStr
 PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
                          Options options, QWidget* parent)
     : QDialog(parent), m_session(session), m_plugin(plugin), m_printers(std::move(printers)),
-      m_options(std::move(options)), m_printerPopup(new QComboBox(this)), m_copies(new QSpinBox(this)),
+      m_options(std::move(options)), m_printerPopup(new QComboBox(this)), m_presets(new PresetPopup(this)),
+      m_copies(new QSpinBox(this)),
       m_allPages(new QRadioButton(tr("All"), this)), m_pageRange(new QRadioButton(tr("From:"), this)),
       m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_panePopup(new QComboBox(this)),
       m_paneStack(new QStackedWidget(this)), m_status(new QLabel(this))
@@ -91,6 +98,7 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     auto* form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignRight);
     form->addRow(tr("Printer:"), m_printerPopup);
+    form->addRow(tr("Presets:"), m_presets);
     m_copies->setMinimumWidth(80);
     auto* copies = new QHBoxLayout;
     copies->addWidget(m_copies);
@@ -124,10 +132,24 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     layout->addWidget(m_status);
     layout->addWidget(buttons);
 
+    if (!m_options.initialPreset.isEmpty()) {
+        QString why;
+        if (ApplyPreset(m_options.initialPreset, m_session, &why))
+            m_presets->reload(m_options.initialPreset);
+        else
+            m_lastError = why;
+    }
     showTicketInControls();
     m_printerPopup->setCurrentIndex(m_options.initialPrinter);
     choosePrinter(m_options.initialPrinter);
+    if (!m_lastError.isEmpty())
+        m_status->setText(
+            tr("%1; the settings shown are those the dialog started with.").arg(m_lastError));
     connect(m_printerPopup, &QComboBox::activated, this, &PrintDialog::choosePrinter);
+    connect(m_presets, &PresetPopup::defaultsChosen, this,
+            [this] { replaceSettings(Ticket(), Ticket()); });
+    connect(m_presets, &PresetPopup::presetChosen, this, &PrintDialog::applyPreset);
+    connect(m_presets, &PresetPopup::saveChosen, this, &PrintDialog::askPresetName);
 }
 
 PrintDialog::~PrintDialog()
@@ -160,7 +182,7 @@ void PrintDialog::writeControlsToTicket()
 bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
 {
     auto ppd = PpdPathForPrinter(printer, m_plugin.folder(), error);
-    if (!printer.isSample)
+    if (!printer.queueName.isEmpty())
         m_fetchedPpd = TemporaryFile(ppd.value_or(QString()));
     if (ppd) {
         QString why;
@@ -259,6 +281,52 @@ void PrintDialog::fail(const QString& message)
     box.exec();
 }
 
+void PrintDialog::replaceSettings(const Ticket& printSettings, const Ticket& pageFormat)
+{
+    stopPlugin();
+    m_session.printSettings() = printSettings;
+    m_session.pageFormat() = pageFormat;
+    showTicketInControls();
+    startPlugin();
+}
+
+void PrintDialog::applyPreset(const QString& name)
+{
+    PrintSession preset;
+    QString why;
+    if (!ApplyPreset(name, preset, &why)) {
+        m_presets->showCurrent();
+        fail(tr("The preset could not be used: %1").arg(why));
+        return;
+    }
+    replaceSettings(preset.printSettings(), preset.pageFormat());
+    m_presets->reload(name);
+}
+
+bool PrintDialog::savePreset(const QString& name)
+{
+    writeControlsToTicket();
+    if (m_pluginRunning)
+        m_plugin.sync(&m_session, false);
+    QString why;
+    if (!SavePreset(name, m_session, &why)) {
+        fail(tr("The settings could not be saved as a preset: %1").arg(why));
+        return false;
+    }
+    m_presets->reload(name);
+    return true;
+}
+
+void PrintDialog::askPresetName()
+{
+    QInputDialog ask(this);
+    ask.setObjectName(QStringLiteral("PresetNameDialog"));
+    ask.setWindowTitle(tr("Save Settings as Preset"));
+    ask.setLabelText(tr("Preset name:"));
+    if (ask.exec() == QDialog::Accepted)
+        savePreset(ask.textValue());
+}
+
 void PrintDialog::print()
 {
     // The plug-in may refuse OK (a secure print without a passcode, a fax
@@ -278,15 +346,17 @@ void PrintDialog::print()
     }
     const PrinterEntry& printer = m_printers[static_cast<std::size_t>(m_currentPrinter)];
     if (!m_options.files.isEmpty()) {
-        if (printer.isSample) {
+        if (printer.queueName.isEmpty() && printer.printerUri.isEmpty()) {
             fail(tr("The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
                     "or save the job's settings with --save-ticket."));
             return;
         }
-        QString why;
-        const QString title = QFileInfo(m_options.files.first()).fileName();
-        if (SubmitJob(printer.queueName, m_options.files, title, JobOptionsFromSession(m_session), &why) == 0) {
-            fail(tr("The job could not be sent to %1: %2").arg(printer.displayName, why));
+        const submission::SubmissionResult sent =
+            SubmitSession(m_session, printer, m_options.files);
+        for (const QString& notice : sent.notices)
+            std::fprintf(stderr, "orvan-print: warning: %s\n", notice.toLocal8Bit().constData());
+        if (!sent.error.isEmpty()) {
+            fail(tr("The job could not be sent to %1: %2").arg(printer.displayName, sent.error));
             return;
         }
     }

@@ -13,6 +13,9 @@
 #include <vector>
 
 class QComboBox;
+namespace orvan {
+class PresetPopup;
+}
 class QLabel;
 class QRadioButton;
 class QSpinBox;
@@ -28,6 +31,7 @@ public:
         QStringList files;
         QString saveTicketPath; // written on Print when set
         int initialPrinter = 0; // index into printers
+        QString initialPreset;  // applied before the plug-in starts; a failure shows in the dialog
     };
 
     PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers, Options options,
@@ -36,6 +40,8 @@ public:
 
     // The message of the last failure to print, for callers and tests.
     QString lastError() const { return m_lastError; }
+    // Saves the settings as shown as a preset; false after telling the user why.
+    bool savePreset(const QString& name);
 
     // Shows the plug-in's pane at index (0 = the shell's pane), as the pane
     // pop-up does: the pane leaving the screen writes its values to the
@@ -54,6 +60,10 @@ private:
     void showTicketInControls();
     void writeControlsToTicket();
     void fail(const QString& message);
+    // Restarts the plug-in on other tickets (a preset, the printer's defaults).
+    void replaceSettings(const Ticket& printSettings, const Ticket& pageFormat);
+    void applyPreset(const QString& name);
+    void askPresetName();
 
     PrintSession& m_session;
     PluginHost& m_plugin;
@@ -65,6 +75,7 @@ private:
     bool m_pluginRunning = false;
 
     QComboBox* m_printerPopup;
+    PresetPopup* m_presets;
     QSpinBox* m_copies;
     QRadioButton* m_allPages;
     QRadioButton* m_pageRange;

@@ -1,6 +1,7 @@
 #include "host/PrinterList.h"
 
 #include "printerdesc/PpdFile.h"
+#include "submission/IppOwners.h"
 
 #include <QFile>
 
@@ -12,24 +13,23 @@ namespace orvan {
 
 namespace {
 
-struct Destinations {
-    int count = 0;
+// The server's destinations, released with their owner.
+std::pair<int, submission::DestsPtr> Destinations()
+{
     cups_dest_t* dests = nullptr;
-    Destinations() { count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests); }
-    ~Destinations() { cupsFreeDests(count, dests); }
-    Destinations(const Destinations&) = delete;
-    Destinations& operator=(const Destinations&) = delete;
-};
+    const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests);
+    return {count, submission::DestsPtr(dests, {count})};
+}
 
 } // namespace
 
 std::vector<PrinterEntry> ListPrinters()
 {
     std::vector<PrinterEntry> printers;
-    const Destinations destinations;
+    const auto [count, dests] = Destinations();
     bool haveDefault = false;
-    for (int i = 0; i < destinations.count; ++i) {
-        const cups_dest_t& dest = destinations.dests[i];
+    for (int i = 0; i < count; ++i) {
+        const cups_dest_t& dest = dests.get()[i];
         if (dest.instance)
             continue;
         PrinterEntry entry;
@@ -50,10 +50,18 @@ std::vector<PrinterEntry> ListPrinters()
     return printers;
 }
 
+PrinterEntry PrinterAtUri(const QString& uri)
+{
+    PrinterEntry entry;
+    entry.displayName = uri;
+    entry.printerUri = uri;
+    return entry;
+}
+
 bool QueueExists(const QString& queueName)
 {
-    const Destinations destinations;
-    return cupsGetDest(queueName.toUtf8().constData(), nullptr, destinations.count, destinations.dests) != nullptr;
+    const auto [count, dests] = Destinations();
+    return cupsGetDest(queueName.toUtf8().constData(), nullptr, count, dests.get()) != nullptr;
 }
 
 std::optional<QString> FetchQueuePPD(const QString& queueName, QString* error)

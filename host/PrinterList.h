@@ -16,7 +16,11 @@ struct PrinterEntry {
     QString ppdFile;   // a PPD file given without a queue; empty otherwise
     bool isDefault = false;
     bool isSample = false;
+    QString printerUri; // an IPP printer given by its address (ipp://...); empty otherwise
 };
+
+// An entry for the IPP printer at the address, printed to directly.
+PrinterEntry PrinterAtUri(const QString& uri);
 
 inline const QString kSamplePrinterName = QStringLiteral("Orvan Meridian 5000 (sample)");
 inline const QString kSamplePpdResource = QStringLiteral("ppd/Orvan-Meridian-5000.ppd");

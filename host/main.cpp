@@ -1,12 +1,15 @@
 // orvan-print: the Print dialog for Orvan printers, and its headless forms.
+#include "host/HeadlessPrint.h"
 #include "host/HostCommandLine.h"
 #include "host/PluginHost.h"
+#include "host/Presets.h"
 #include "host/PrintDialog.h"
 #include "host/PrinterList.h"
 #include "host/TemporaryFile.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/PropertyList.h"
 #include "settings/TicketFile.h"
+#include "submission/Submission.h"
 #include "ui/AlertBox.h"
 
 #include <QApplication>
@@ -57,6 +60,10 @@ std::optional<int> choosePrinter(const HostCommandLine& line, std::vector<Printe
         entry.ppdFile = QFileInfo(line.ppdFile).absoluteFilePath();
         printers.insert(printers.begin(), entry);
         session.setCurrentPrinter(Printer{QString(), QFileInfo(line.ppdFile).absoluteFilePath()});
+        return 0;
+    }
+    if (submission::IsPrinterUri(line.printerQueue)) {
+        printers.insert(printers.begin(), PrinterAtUri(line.printerQueue));
         return 0;
     }
     if (!line.printerQueue.isEmpty()) {
@@ -124,13 +131,13 @@ int main(int argc, char** argv)
         std::fputs(HostUsage().toLocal8Bit().constData(), stdout);
         return 0;
     }
-    const bool headless = line->dumpTicket;
+    const bool headless = line->dumpTicket || line->print;
     const bool screenshot = !line->screenshotPath.isEmpty();
     if (screenshot)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (!headless && qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
              qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        return usageError(QStringLiteral("no display to show the dialog on; use --dump-ticket or --screenshot"));
+        return usageError(QStringLiteral("no display to show the dialog on; use --print, --dump-ticket or --screenshot"));
 
     std::unique_ptr<QCoreApplication> app(headless ? new QCoreApplication(argc, argv) : new QApplication(argc, argv));
     QCoreApplication::setApplicationName(QStringLiteral("orvan-print"));
@@ -141,6 +148,9 @@ int main(int argc, char** argv)
 
     PrintSession session;
     if (!line->ticketIn.isEmpty() && !loadTicketFile(line->ticketIn, session, &why))
+        return usageError(why);
+    // The dialog reports a preset it cannot apply and stays open.
+    if (headless && !line->preset.isEmpty() && !ApplyPreset(line->preset, session, &why))
         return usageError(why);
 
     const QString pluginFolder = PluginHost::locatePluginFolder();
@@ -166,18 +176,21 @@ int main(int argc, char** argv)
             std::fprintf(stderr, "orvan-print: %s; the printer's defaults are used\n", ppdWhy.toLocal8Bit().constData());
     }
 
-    if (headless) {
-        // What the printer would not know is not carried on.
-        if (const auto& current = session.currentPrinter(); current && !current->ppdPath.isEmpty())
-            PPDDropChoicesNotOffered(OpenPPDFile(current->ppdPath).get(), &session.printSettings());
+    // What the printer would not know is not carried on.
+    if (const auto& current = session.currentPrinter(); headless && current && !current->ppdPath.isEmpty())
+        PPDDropChoicesNotOffered(OpenPPDFile(current->ppdPath).get(), &session.printSettings());
+    if (line->print)
+        return RunHeadlessPrint(*plugin, session, printer, line->files, line->ticketOut);
+    if (headless)
         return dumpTicket(*plugin, session, line->ticketOut);
-    }
 
     InstallMessageBoxAlertPresenter();
+    InstallMessageBoxQuestionPresenter();
     PrintDialog::Options options;
     options.files = line->files;
     options.saveTicketPath = line->ticketOut;
     options.initialPrinter = *chosen;
+    options.initialPreset = line->preset;
     PrintDialog dialog(session, *plugin, printers, options);
     if (screenshot) {
         dialog.adjustSize();

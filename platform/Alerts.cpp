@@ -10,6 +10,11 @@ AlertPresenter& presenter()
     static AlertPresenter instance;
     return instance;
 }
+QuestionPresenter& questionPresenter()
+{
+    static QuestionPresenter instance;
+    return instance;
+}
 } // namespace
 
 AlertPresenter SetAlertPresenter(AlertPresenter next)
@@ -25,7 +30,23 @@ void ShowAlert(const Alert& alert)
         presenter()(alert);
         return;
     }
-    std::fprintf(stderr, "%s: %s\n", alert.title.toUtf8().constData(), alert.message.toUtf8().constData());
+    std::fprintf(stderr, "%s: %s\n", alert.title.toUtf8().constData(),
+                 alert.message.toUtf8().constData());
+}
+
+QuestionPresenter SetQuestionPresenter(QuestionPresenter next)
+{
+    QuestionPresenter previous = std::move(questionPresenter());
+    questionPresenter() = std::move(next);
+    return previous;
+}
+
+QuestionAnswer AskQuestion(const Question& question)
+{
+    if (questionPresenter())
+        return questionPresenter()(question);
+    ShowAlert(question.alert);
+    return QuestionAnswer::Default;
 }
 
 } // namespace orvan

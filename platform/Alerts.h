@@ -27,4 +27,28 @@ using AlertPresenter = std::function<void(const Alert&)>;
 AlertPresenter SetAlertPresenter(AlertPresenter presenter);
 void ShowAlert(const Alert& alert);
 
+// A caution question with two buttons: the default one (also the answer
+// without a presenter, so nothing is destroyed when no one can be asked) and
+// the other one.
+struct Question
+{
+    Alert alert;
+    QString defaultButton;
+    QString otherButton;
+};
+enum class QuestionAnswer
+{
+    Default,
+    Other
+};
+
+// Shows the question and returns the button the user chose.
+using QuestionPresenter = std::function<QuestionAnswer(const Question&)>;
+
+// Installs the process-wide presenter and returns the previous one. With no
+// presenter installed, the question goes to the standard error stream and
+// the answer is Default.
+QuestionPresenter SetQuestionPresenter(QuestionPresenter presenter);
+QuestionAnswer AskQuestion(const Question& question);
+
 } // namespace orvan

@@ -159,7 +159,7 @@ FileError replaceRegularFile(const std::string& path, std::string_view bytes, Fi
     if (fd.get() < 0)
         return ErrorText(errno);
     mode_t mode = 0600;
-    if (privacy == FilePrivacy::Shared)
+    if (privacy == FilePrivacy::Default)
         mode = existing ? (existing->st_mode & 07777) : (0666 & ~umaskValue());
     FileError error = writeAll(fd.get(), bytes);
     if (error.empty() && ::fchmod(fd.get(), mode) != 0)
@@ -268,10 +268,10 @@ FileError MakeFolder(const std::string& path, FilePrivacy privacy)
     if (::stat(path.c_str(), &info) != 0) {
         const std::string parent = folderOf(path);
         if (parent != path && parent != "." && parent != "/") {
-            if (FileError error = MakeFolder(parent, FilePrivacy::Shared); !error.empty())
+            if (FileError error = MakeFolder(parent, FilePrivacy::Default); !error.empty())
                 return error;
         }
-        if (::mkdir(path.c_str(), privacy == FilePrivacy::Private ? 0700 : 0777) != 0 &&
+        if (::mkdir(path.c_str(), privacy == FilePrivacy::OwnerOnly ? 0700 : 0777) != 0 &&
             errno != EEXIST)
             return ErrorText(errno);
         if (::stat(path.c_str(), &info) != 0)
@@ -279,7 +279,7 @@ FileError MakeFolder(const std::string& path, FilePrivacy privacy)
     }
     if (!S_ISDIR(info.st_mode))
         return ErrorText(ENOTDIR);
-    if (privacy == FilePrivacy::Private && (info.st_mode & 077) != 0 &&
+    if (privacy == FilePrivacy::OwnerOnly && (info.st_mode & 077) != 0 &&
         ::chmod(path.c_str(), 0700) != 0)
         return ErrorText(errno);
     return {};

@@ -31,10 +31,10 @@ using FileError = std::string;
 FileError ReadWholeFile(const std::string& path, std::size_t limit,
                         std::vector<std::uint8_t>& bytes);
 
-enum class FilePrivacy : std::uint8_t
-{
-    Shared,  // a new file gets 0666 less the umask; a replaced one keeps its mode
-    Private, // always 0600: the file may hold a passcode
+// Who may read a written file.
+enum class FilePrivacy : std::uint8_t {
+    Default,   // a new file gets 0666 less the umask; a replaced one keeps its mode
+    OwnerOnly, // always 0600: the file may hold a passcode
 };
 
 // Writes bytes to path ("-" is standard output):
@@ -48,7 +48,7 @@ enum class FilePrivacy : std::uint8_t
 //   Temporaries of that naming whose process is gone are removed first.
 FileError ReplaceFile(const std::string& path, std::string_view bytes, FilePrivacy privacy);
 
-// Creates the folder and its missing parents; with FilePrivacy::Private the
+// Creates the folder and its missing parents; with FilePrivacy::OwnerOnly the
 // folder itself (not its parents) is made 0700 even when it existed.
 FileError MakeFolder(const std::string& path, FilePrivacy privacy);
 

@@ -11,7 +11,8 @@ if command -v ccache >/dev/null; then
     launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi
 cmake --preset fuzz -UORVAN_SUBSYSTEMS "${launcher[@]}" >/dev/null
-cmake --build build-fuzz -j2 --target fuzz_property_list fuzz_pageranges type42_fuzzer type42_fuzz_seeds
+cmake --build build-fuzz -j2 --target fuzz_property_list fuzz_pageranges type42_fuzzer type42_fuzz_seeds \
+    watermark_file_fuzzer
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -20,6 +21,7 @@ mkdir -p "$artifacts" "$work/type42_fuzzer"
 build-fuzz/fuzz/type42_fuzz_seeds "$work/type42_fuzzer"
 cp -r fuzz/plist/corpus "$work/fuzz_property_list"
 cp -r fuzz/pageranges/corpus "$work/fuzz_pageranges"
+cp -r fuzz/watermark/corpus "$work/watermark_file_fuzzer"
 
 # fuzzer [extra libFuzzer flags...]: runs it on a copy of its corpus, so that
 # what it finds stays out of the source tree.
@@ -37,3 +39,4 @@ fuzz() {
 fuzz fuzz_property_list
 fuzz fuzz_pageranges
 fuzz type42_fuzzer -dict=fuzz/type42/type42.dict
+fuzz watermark_file_fuzzer -dict=fuzz/watermark/watermark.dict

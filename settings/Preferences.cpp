@@ -89,12 +89,12 @@ std::optional<PropertyValue> ReadPropertyListFile(const QString& path, QString* 
     return value;
 }
 
-void SetAsideDamagedFile(const QString& path, const QString& why)
+void SetAsideUnreadableFile(const QString& path, const QString& why)
 {
     if (!QFileInfo(path).isFile())
         return;
-    const QString dated = path + QStringLiteral(".damaged-") +
-                          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString dated = path + QStringLiteral(".unreadable-") +
+                          QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     QString aside = dated;
     for (int n = 2; QFileInfo::exists(aside) && n < 100; ++n)
         aside = dated + QLatin1Char('-') + QString::number(n);
@@ -120,7 +120,7 @@ std::optional<PropertyValue> CopyUserPreferences(const QString& fileName)
     if (content && !content->isDictionary())
         why = QStringLiteral("not a dictionary");
     if (!content || !content->isDictionary()) {
-        SetAsideDamagedFile(path, why);
+        SetAsideUnreadableFile(path, why);
         return PropertyValue::dictionary();
     }
     return content;
@@ -131,8 +131,8 @@ bool WriteUserPreferences(const QString& fileName, const PropertyValue& value)
     const QString folder = UserPreferencesFolder();
     int code = QFileDevice::OpenError;
     if (!folder.isEmpty() &&
-        MakeFolder(QFile::encodeName(folder).toStdString(), FilePrivacy::Private).empty() &&
-        WritePropertyListFile(folder + QLatin1Char('/') + fileName, value, &code))
+        MakeFolder(QFile::encodeName(folder).toStdString(), FilePrivacy::OwnerOnly).empty() &&
+        WritePropertyListFile(folder + QLatin1Char('/') + fileName, value, &code, nullptr, FilePrivacy::OwnerOnly))
         return true;
     std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n", code);
     return false;
@@ -159,7 +159,7 @@ std::optional<PropertyValue> CopyXMLData(const QString& fileName)
     if (!content) {
         std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n",
                      why.toUtf8().constData());
-        SetAsideDamagedFile(path, why);
+        SetAsideUnreadableFile(path, why);
     }
     return content;
 }
@@ -169,7 +169,7 @@ bool WriteXMLData(const QString& fileName, const PropertyValue& value)
     const QString path = CopyPreferenceFileURL(fileName);
     int code = QFileDevice::OpenError;
     QString why;
-    if (!path.isEmpty() && WritePropertyListFile(path, value, &code, &why, FilePrivacy::Shared))
+    if (!path.isEmpty() && WritePropertyListFile(path, value, &code, &why, FilePrivacy::Default))
         return true;
     std::fprintf(stderr, "WriteXMLData(%s) failed (%d) %s\n", fileName.toUtf8().constData(), code,
                  why.toUtf8().constData());

@@ -28,7 +28,7 @@ QString ApplicationSupportFolder();
 // file is missing, unreadable, not a property list or not a dictionary.
 // nullopt only when the preferences folder itself cannot be found.
 // A file that is there but unreadable is set aside first (see
-// SetAsideDamagedFile), so that the next write does not destroy it.
+// SetAsideUnreadableFile), so that the next write does not destroy it.
 std::optional<PropertyValue> CopyUserPreferences(const QString& fileName);
 
 // Writes the value to the per-user file, replacing it atomically and
@@ -46,7 +46,7 @@ QString CopyPreferenceFileURL(const QString& fileName);
 // The shared data file's content; nullopt when it cannot be located, read or
 // parsed. A parse error is written to the standard error stream as
 // "CopyXMLData()::CFPropertyListCreateFromXMLData() error: <what and where>",
-// and the damaged file is set aside (SetAsideDamagedFile).
+// and the unreadable file is set aside (SetAsideUnreadableFile).
 std::optional<PropertyValue> CopyXMLData(const QString& fileName);
 
 // Writes a shared data file atomically; false (with a diagnostic) on failure.
@@ -58,7 +58,7 @@ bool WriteXMLData(const QString& fileName, const PropertyValue& value);
 // when the value cannot be written as a property list) goes to errorCode.
 bool WritePropertyListFile(const QString& path, const PropertyValue& value,
                            int* errorCode = nullptr, QString* errorText = nullptr,
-                           FilePrivacy privacy = FilePrivacy::Private);
+                           FilePrivacy privacy = FilePrivacy::Default);
 
 // Reads a property-list file of at most kMaxPropertyListFileSize bytes;
 // nullopt with the reason ("larger than 32 MiB", "line 3, column 1: ...").
@@ -71,8 +71,8 @@ inline std::optional<PropertyValue> CreatePropertiesFromXMLFile(const QString& p
 }
 
 // Renames a regular file that could not be used to
-// "<name>.damaged-<yyyyMMdd-HHmmss>" beside it and says so, with the reason,
+// "<name>.unreadable-<yyyyMMdd-HHmmss>" (UTC) beside it and says so, with the reason,
 // on the standard error stream. Nothing for a path that is no regular file.
-void SetAsideDamagedFile(const QString& path, const QString& why);
+void SetAsideUnreadableFile(const QString& path, const QString& why);
 
 } // namespace orvan

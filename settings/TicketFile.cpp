@@ -262,7 +262,9 @@ bool saveTicketFile(const QString& path, const PrintSession& session, QString* e
 {
     int code = 0;
     QString why;
-    if (WritePropertyListFile(path, sessionToPropertyList(session), &code, &why))
+    // A job's own ticket holds its passcode: it is the user's alone.
+    if (WritePropertyListFile(path, sessionToPropertyList(session), &code, &why,
+                              FilePrivacy::OwnerOnly))
         return true;
     return fail(error, QStringLiteral("cannot write %1: %2").arg(path, why));
 }

@@ -13,6 +13,7 @@ namespace orvan {
 // Tab order: Paper/Output, Image Options, Booklet/Watermark, Advanced. A
 // panel's name stands here once the panel exists in the plug-in.
 const char* const _PanelInterfaces[] = {
+    "GetPaperOutputPanelInterface",
     "GetImageOptionsPanelInterface",
     "GetAdvancedPanelInterface",
     nullptr,

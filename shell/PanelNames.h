@@ -9,6 +9,7 @@
 namespace orvan {
 
 inline constexpr const char* kStandalonePaneInterfaces[] = {
+    "GetSpecialPagesPanelInterface",
     nullptr,
 };
 

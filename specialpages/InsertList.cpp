@@ -32,14 +32,22 @@ Insert* InsertList::pageAtIndex(long index) const
 
 Status InsertList::add(SpecialPageSpan pages)
 {
+    // Every insert before the previous one's place starts no later than it,
+    // so an insert that starts no earlier is searched for from there on:
+    // adding the pages of a long range in order stays linear.
+    std::size_t searchFrom = 0;
+    std::int32_t previousStart = 0;
     for (const SpecialPage* page : pages) {
         const auto* insert = dynamic_cast<const Insert*>(page);
         if (!insert)
             continue;
-        const auto position =
-            std::find_if(m_pages.begin(), m_pages.end(), [insert](const auto& held) {
-                return held->startPage() > insert->startPage();
-            });
+        if (searchFrom > 0 && insert->startPage() < previousStart)
+            searchFrom = 0;
+        const auto position = std::find_if(
+            m_pages.begin() + static_cast<std::ptrdiff_t>(searchFrom), m_pages.end(),
+            [insert](const auto& held) { return held->startPage() > insert->startPage(); });
+        searchFrom = static_cast<std::size_t>(position - m_pages.begin()) + 1;
+        previousStart = insert->startPage();
         m_pages.insert(position, insert->clone());
     }
     return kNoError;

@@ -21,6 +21,9 @@ inline constexpr Status kInvalidRangeOrder = 1002;  // first page after the last
 inline constexpr Status kInvalidPageNumbers = 1003; // page 0 where a real page is needed
 inline constexpr Status kPageRangeConflict = 1234;  // special pages that clash
 
+// The characters a page-range field lets the user type.
+inline constexpr char kPageRangeCharacters[] = "0123456789, -";
+
 struct PageRange
 {
     std::int32_t first;

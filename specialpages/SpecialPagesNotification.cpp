@@ -47,4 +47,14 @@ void SpecialPagesUserNotification(Status code, const Bundle& bundle)
     }
 }
 
+void SpecialPagesUserNotification(Status code, const Bundle* bundle)
+{
+    if (bundle) {
+        SpecialPagesUserNotification(code, *bundle);
+        return;
+    }
+    static const Bundle noBundle{QString()};
+    SpecialPagesUserNotification(code, noBundle);
+}
+
 } // namespace orvan

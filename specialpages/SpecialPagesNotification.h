@@ -12,5 +12,7 @@ class Bundle;
 // title and message texts of the bundle's default table ("STRING NOT FOUND"
 // where a text is missing). Any other code shows nothing.
 void SpecialPagesUserNotification(Status code, const Bundle& bundle);
+// The same without a bundle: every text reads "STRING NOT FOUND".
+void SpecialPagesUserNotification(Status code, const Bundle* bundle);
 
 } // namespace orvan

@@ -93,12 +93,12 @@ void SpecialPagesState::readFromTicket(const Ticket& ticket)
     ReadCoversFromTicket(ticket, frontCover, backCover);
 }
 
-Status SpecialPagesState::writeToTicket(Ticket& ticket) const
+Status SpecialPagesState::writeToTicket(Ticket& ticket, bool withCovers) const
 {
     Status status = storeOrRemove(ticket, kInsertListKey, inserts.asTicket());
     if (status == kNoError)
         status = storeOrRemove(ticket, kExceptionListKey, exceptions.asTicket());
-    if (status != kNoError)
+    if (status != kNoError || !withCovers)
         return status;
     return WriteCoversToTicket(ticket, frontCover.get(), backCover.get());
 }

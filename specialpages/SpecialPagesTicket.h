@@ -51,9 +51,11 @@ struct SpecialPagesState
     // are skipped.
     void readFromTicket(const Ticket& ticket);
     // Stores the two lists (removing the key of an empty one), then the
-    // covers. The job-level stock belongs to the Paper/Output panel, which
-    // writes it; it is not written here.
-    Status writeToTicket(Ticket& ticket) const;
+    // covers unless left out (an editor that did not change them leaves
+    // them to the other editor of covers, the Paper/Output panel). The
+    // job-level stock belongs to the Paper/Output panel, which writes it; it
+    // is not written here.
+    Status writeToTicket(Ticket& ticket, bool withCovers = true) const;
 };
 
 } // namespace orvan

@@ -13,10 +13,14 @@ namespace {
 
 const QString kDash = QStringLiteral("- ");
 
-// The PPD's text of the choice that carries the value. A value no choice
-// carries (unset in the job context) reads as the printer's default; a
-// choice the PPD has no text for reads as its keyword.
-QString choiceText(const Bundle* bundle, const char* mainKeyword, std::int32_t value)
+QString withCount(const QString& text, std::int32_t count)
+{
+    return text + QStringLiteral(" (") + QString::number(count) + QLatin1Char(')');
+}
+
+} // namespace
+
+QString StockChoiceText(const Bundle* bundle, const char* mainKeyword, std::int32_t value)
 {
     const QString keyword = QString::fromLatin1(mainKeyword);
     const char* choice = PPDChoiceForTicketValue(keyword, value);
@@ -26,12 +30,7 @@ QString choiceText(const Bundle* bundle, const char* mainKeyword, std::int32_t v
     return PPDCopyChoiceText(PPDGetCurrent(), keyword, choiceName).value_or(choiceName);
 }
 
-QString withCount(const QString& text, std::int32_t count)
-{
-    return text + QStringLiteral(" (") + QString::number(count) + QLatin1Char(')');
-}
-
-QString typeText(const Bundle* bundle, const Stock& stock)
+QString StockTypeText(const Bundle* bundle, const Stock& stock)
 {
     switch (stock.type()) {
     case kNamedTabMediaType:
@@ -44,15 +43,13 @@ QString typeText(const Bundle* bundle, const Stock& stock)
     case 24: // TabStock
     case 33: // HeavyTabStock
         if (stock.modulus() > 0)
-            return withCount(choiceText(bundle, "MediaType", stock.type()), stock.modulus());
+            return withCount(StockChoiceText(bundle, "MediaType", stock.type()), stock.modulus());
         break;
     default:
         break;
     }
-    return choiceText(bundle, "MediaType", stock.type());
+    return StockChoiceText(bundle, "MediaType", stock.type());
 }
-
-} // namespace
 
 QString GenerateStockSummary(const Bundle* bundle, JobContext context, const Stock& stock,
                              const QString& separator)
@@ -66,16 +63,16 @@ QString GenerateStockSummary(const Bundle* bundle, JobContext context, const Sto
                          stock.customName();
         if (!stock.customNameOnly()) {
             if (stock.size() != kUnset && !job)
-                items << kDash + choiceText(bundle, "PageSize", stock.size());
+                items << kDash + StockChoiceText(bundle, "PageSize", stock.size());
             if (!(stock.color() == kUnset && !job)) {
                 if (stock.color() == kCustomMediaColor)
                     items << LocalizedStockText(bundle, QStringLiteral("StockColor")) + colon +
                                  stock.customColor();
                 else
-                    items << kDash + choiceText(bundle, "MediaColor", stock.color());
+                    items << kDash + StockChoiceText(bundle, "MediaColor", stock.color());
             }
             if (!(stock.type() == kUnset && !job))
-                items << kDash + typeText(bundle, stock);
+                items << kDash + StockTypeText(bundle, stock);
         }
     } else if (stock.source() == kInstalledFeatureSource) {
         items << kDash + CopyLocalizedStringForInstalledFeatureFromPlugin(kPostPrintInserterFeature,

@@ -10,6 +10,17 @@ namespace orvan {
 
 class Bundle;
 
+// The current PPD's text of the choice that carries the value. A value no
+// choice carries (unset in the job context) reads "PrinterDefault"; a choice
+// the PPD has no text for reads as its keyword.
+QString StockChoiceText(const Bundle* bundle, const char* mainKeyword, std::int32_t value);
+
+// The type's text: customType for a named type (7), with the tab count as
+// " (n)" for named tab stock (6); the pre-cut tab text with its count (4);
+// the PPD's text otherwise, with the count for tab stocks (24, 33) that have
+// one.
+QString StockTypeText(const Bundle* bundle, const Stock& stock);
+
 // The summary items of the stock joined with the separator. Texts of sizes,
 // colours and types are the current PPD's choice texts.
 //  - Source unset: "StockName" ":" customName when there is one; then, unless

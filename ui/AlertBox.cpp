@@ -1,6 +1,7 @@
 #include "ui/AlertBox.h"
 
 #include <QPointer>
+#include <QPushButton>
 
 namespace orvan {
 
@@ -30,6 +31,27 @@ AlertPresenter InstallMessageBoxAlertPresenter(QWidget* parent)
         box.setInformativeText(alert.message);
         box.setWindowModality(Qt::ApplicationModal);
         box.exec();
+    });
+}
+
+QuestionPresenter InstallMessageBoxQuestionPresenter(QWidget* parent)
+{
+    QPointer<QWidget> owner(parent);
+    return SetQuestionPresenter([owner](const Question& question) {
+        QMessageBox box(AlertIcon(question.alert.level), question.alert.title,
+                        question.alert.message, QMessageBox::NoButton, owner.data());
+        box.setObjectName(QStringLiteral("Question"));
+        box.setText(question.alert.title);
+        box.setInformativeText(question.alert.message);
+        QPushButton* other = box.addButton(question.otherButton, QMessageBox::AcceptRole);
+        other->setObjectName(QStringLiteral("OtherButton"));
+        QPushButton* byDefault = box.addButton(question.defaultButton, QMessageBox::RejectRole);
+        byDefault->setObjectName(QStringLiteral("DefaultButton"));
+        box.setDefaultButton(byDefault);
+        box.setEscapeButton(byDefault);
+        box.setWindowModality(Qt::ApplicationModal);
+        box.exec();
+        return box.clickedButton() == other ? QuestionAnswer::Other : QuestionAnswer::Default;
     });
 }
 

@@ -17,4 +17,8 @@ QMessageBox::Icon AlertIcon(AlertLevel level);
 // returns when the user dismissed it. Returns the previous presenter.
 AlertPresenter InstallMessageBoxAlertPresenter(QWidget* parent = nullptr);
 
+// The same for questions: a message box with the two buttons, the default
+// one focused (Escape answers it too). Returns the previous presenter.
+QuestionPresenter InstallMessageBoxQuestionPresenter(QWidget* parent = nullptr);
+
 } // namespace orvan

@@ -241,8 +241,8 @@ QString IppEveryWherePrinter::programPath()
     return FindProgram("dbus-daemon").isEmpty() ? QString() : FindProgram("ippeveprinter");
 }
 
-std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString& name,
-                                                                  QString* error)
+std::unique_ptr<IppEveryWherePrinter>
+IppEveryWherePrinter::start(const QString& name, QString* error, const QString& attributesFile)
 {
     std::unique_ptr<IppEveryWherePrinter> printer(new IppEveryWherePrinter);
     ServerProcess& bus = printer->m_bus;
@@ -258,20 +258,40 @@ std::unique_ptr<IppEveryWherePrinter> IppEveryWherePrinter::start(const QString&
     environment.insert("DBUS_SYSTEM_BUS_ADDRESS", bus.readAllStandardOutput().trimmed());
     printer->m_printer.setProcessEnvironment(environment);
     printer->m_printer.setProgram(programPath());
+    printer->m_printer.setStandardOutputFile(printer->m_root.filePath("printer.log"));
     const QString spool = printer->m_root.filePath("spool");
     QDir().mkpath(spool);
     // -n localhost -r off: no DNS-SD announcement, on loopback; -c: a print
     // command that returns at once (without one the simulator takes seconds
     // per job); -k keeps each document.
     const auto arguments = [&](int port) {
-        return QString("-n localhost -r off -k -c /bin/true").split(' ') +
-               QStringList{"-p", QString::number(port),
-                           "-d", spool,
-                           "-f", "application/pdf,application/postscript,application/octet-stream",
-                           name};
+        const QStringList description =
+            attributesFile.isEmpty()
+                ? QStringList{"-f",
+                              "application/pdf,application/postscript,application/octet-stream"}
+                : QStringList{"-vv", "-a", attributesFile};
+        return QString("-n localhost -r off -k -c /bin/true").split(' ') + description +
+               QStringList{"-p", QString::number(port), "-d", spool, name};
     };
     printer->m_port = StartOnFreePort(printer->m_printer, arguments, "/ipp/print", error);
     return printer->m_port ? std::move(printer) : nullptr;
+}
+
+QString IppEveryWherePrinter::output() const
+{
+    QFile log(m_root.filePath("printer.log"));
+    return log.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(log.readAll()) : QString();
+}
+
+bool IppEveryWherePrinter::logged(const QString& text) const
+{
+    return PollUntil(kStartMs, [&] { return output().contains(text); });
+}
+
+std::unique_ptr<ipp_t, void (*)(ipp_t*)> IppEveryWherePrinter::job(int jobId) const
+{
+    auto response = Request(m_port, "/ipp/print", jobId);
+    return {response.release(), &ippDelete};
 }
 
 QStringList IppEveryWherePrinter::receivedDocuments() const

@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <cups/ipp.h>
+
 #include <memory>
 
 namespace orvan::testing {
@@ -70,11 +72,21 @@ class IppEveryWherePrinter
 public:
     // The program, or an empty string when the machine lacks it or dbus-daemon.
     static QString programPath();
-    static std::unique_ptr<IppEveryWherePrinter> start(const QString& name, QString* error);
+    // With an attributes file the printer describes itself from it (its
+    // document formats included) and logs every request it receives, so that
+    // output() shows the operation attributes it keeps nowhere else.
+    static std::unique_ptr<IppEveryWherePrinter> start(const QString& name, QString* error,
+                                                       const QString& attributesFile = {});
 
     QString uri() const { return QStringLiteral("ipp://127.0.0.1:%1/ipp/print").arg(m_port); }
     QStringList receivedDocuments() const;
-    QString output() { return QString::fromLocal8Bit(m_printer.readAll()); }
+    // The printer's log. It goes to a file, so that a busy printer never
+    // waits for the test to read it.
+    QString output() const;
+    // Waits, within a bound, until the printer's log shows the text.
+    bool logged(const QString& text) const;
+    // The printer's own record of its job: Get-Job-Attributes, every attribute.
+    std::unique_ptr<ipp_t, void (*)(ipp_t*)> job(int jobId) const;
 
 private:
     IppEveryWherePrinter() = default;

@@ -48,6 +48,49 @@ inline bool WritePostScriptDocument(const QString& path, int pages)
     return file.open(QIODevice::WriteOnly) && file.write(text + "%%Trailer\n%%EOF\n") > 0;
 }
 
+// The description of an IPP printer with a finisher, for ippeveprinter's -a:
+// trays, paper types and colours, staples and punches, bins, covers, inserts,
+// exception pages, passcodes and job notes.
+inline bool WriteFinisherPrinterAttributes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(R"(
+ATTR mimeMediaType document-format-supported application/pdf,application/postscript,text/plain
+ATTR rangeOfInteger copies-supported 1-99
+ATTR boolean page-ranges-supported true
+ATTR keyword sides-supported one-sided,two-sided-long-edge,two-sided-short-edge
+ATTR keyword output-bin-supported auto,top,stacker
+ATTR enum finishings-supported 3,20,28,74,78
+ATTR keyword finishings-col-supported finishing-template
+ATTR keyword media-col-supported media-size,media-type,media-color,media-source,media-weight-metric,media-info
+ATTR keyword media-type-supported stationery,tab-stock,cardstock
+ATTR keyword media-color-supported white,blue,yellow,pink,green
+ATTR keyword media-source-supported auto,tray-1,tray-2
+ATTR keyword media-supported na_letter_8.5x11in,iso_a4_210x297mm
+ATTR collection media-size-supported {MEMBER integer x-dimension 21590 MEMBER integer y-dimension 27940},{MEMBER integer x-dimension 21000 MEMBER integer y-dimension 29700}
+ATTR keyword cover-front-supported cover-type,media-col
+ATTR keyword cover-back-supported cover-type,media-col
+ATTR keyword insert-sheet-supported insert-after-page-number,insert-count,media-col
+ATTR keyword overrides-supported pages,media-col,sides
+ATTR integer job-password-supported 10
+ATTR keyword job-password-encryption-supported none
+ATTR boolean job-sheet-message-supported true
+ATTR boolean job-message-to-operator-supported true
+ATTR enum print-quality-supported 3,4,5
+ATTR resolution printer-resolution-supported 600dpi,1200dpi,200x100dpi,200dpi
+ATTR enum orientation-requested-supported 3,4
+ATTR rangeOfInteger number-up-supported 1-16
+ATTR keyword proof-print-supported proof-print-copies
+ATTR keyword job-storage-supported job-storage-access,job-storage-disposition,job-storage-group
+ATTR keyword job-storage-access-supported owner,public
+ATTR keyword job-storage-disposition-supported print-and-store,store-only
+ATTR rangeOfInteger job-hold-until-time-supported 0-2147483647
+ATTR keyword destination-uris-supported destination-uri,pre-dial-string
+ATTR keyword cover-sheet-info-supported message,from-name
+ATTR boolean confirmation-sheet-print-supported true
+)") > 0;
+}
+
 } // namespace orvan::testing
 
 // GoogleTest shows QStrings as text.

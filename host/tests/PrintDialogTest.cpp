@@ -2,6 +2,7 @@
 // the session, when it refuses and stays open, and a job sent through it to a
 // private cupsd.
 #include "host/PrintDialog.h"
+#include "host/Presets.h"
 #include "host/JobSubmission.h"
 #include "host/tests/HostTestSupport.h"
 #include "settings/TicketFile.h"
@@ -78,6 +79,12 @@ protected:
     // Clicks Print; the texts of the error boxes it showed, each closed at once.
     static QStringList clickPrint(PrintDialog& dialog)
     {
+        return closingErrorBoxes([&] { field<QPushButton>(dialog, "PrintButton")->click(); });
+    }
+
+    // Runs the action; the texts of the error boxes it showed, each closed at once.
+    template <typename Action> static QStringList closingErrorBoxes(Action action)
+    {
         QStringList texts;
         QTimer closer;
         QObject::connect(&closer, &QTimer::timeout, [&texts] {
@@ -89,7 +96,7 @@ protected:
                 }
         });
         closer.start(20);
-        field<QPushButton>(dialog, "PrintButton")->click();
+        action();
         QApplication::processEvents();
         return texts;
     }
@@ -154,17 +161,24 @@ TEST_F(PrintDialogTest, FailureToPrintShowsWhyAndKeepsTheDialogAndItsFields)
 {
     ASSERT_TRUE(WritePostScriptDocument(m_home.filePath("report.ps"), 1));
     QFile(m_home.filePath("plain-file")).open(QIODevice::WriteOnly);
+    const PrinterEntry unreachable =
+        PrinterAtUri(QStringLiteral("ipp://127.0.0.1:%1/ipp/print").arg(FreeLoopbackPort()));
     const struct
     {
         PrintDialog::Options options;
+        PrinterEntry printer;
         const char* mentions;
     } cases[] = {
-        {{{m_home.filePath("report.ps")}, {}}, "sample printer"}, // a file, no queue to take it
-        {{{}, m_home.filePath("plain-file/job.plist")}, "saved"}, // the ticket cannot be saved
+        // A file, no queue to take it.
+        {{{m_home.filePath("report.ps")}, {}}, SamplePrinter(), "sample printer"},
+        // The ticket cannot be saved.
+        {{{}, m_home.filePath("plain-file/job.plist")}, SamplePrinter(), "saved"},
+        {{{m_home.filePath("report.ps")}, {}}, unreachable, "cannot reach the printer"},
+        {{{m_home.filePath("plain-file")}, {}}, unreachable, "plain-file is empty"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.mentions);
-        const auto dialog = makeDialog({SamplePrinter()}, c.options);
+        const auto dialog = makeDialog({c.printer, SamplePrinter()}, c.options);
         enterCopiesAndPages(*dialog, 4, 3, 8);
         const QStringList boxes = clickPrint(*dialog);
         ASSERT_EQ(boxes.size(), 1);
@@ -176,6 +190,52 @@ TEST_F(PrintDialogTest, FailureToPrintShowsWhyAndKeepsTheDialogAndItsFields)
         EXPECT_EQ(fields(*dialog), std::tuple(4, 3, 8));
         EXPECT_FALSE(QFile::exists(m_home.filePath("plain-file/job.plist")));
     }
+}
+
+// A preset keeps the settings as shown; "Default Settings" clears them; a
+// preset that is missing or unreadable leaves everything as it was.
+TEST_F(PrintDialogTest, PresetsSaveAndRestoreTheSettings)
+{
+    {
+        const auto dialog = makeDialog({SamplePrinter()});
+        enterCopiesAndPages(*dialog, 4, 2, 3);
+        ASSERT_TRUE(dialog->savePreset("Board packs"));
+        auto* presets = field<QComboBox>(*dialog, "PresetPopup");
+        EXPECT_EQ(presets->currentText(), "Board packs");
+        EXPECT_EQ(presets->itemText(0), "Default Settings");
+        EXPECT_EQ(presets->itemText(presets->count() - 1), "Save Settings as Preset\u2026");
+
+        presets->setCurrentIndex(0);
+        emit presets->activated(0);
+        const auto [copies, firstPage, lastPage] = fields(*dialog); // one copy of all pages
+        EXPECT_EQ(std::tuple(copies, firstPage), std::tuple(1, 0));
+        EXPECT_FALSE(m_session.printSettings().containsItem(kCopiesKey));
+        EXPECT_TRUE(dialog->findChild<QWidget*>("PluginPane"));
+
+        const int saved = presets->findText("Board packs");
+        presets->setCurrentIndex(saved);
+        emit presets->activated(saved);
+        EXPECT_EQ(fields(*dialog), std::tuple(4, 2, 3));
+
+        // A preset file that went bad in the meantime.
+        QFile broken(PresetsFolder() + "/Board packs.plist");
+        ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("<plist>") > 0);
+        broken.close();
+        enterCopiesAndPages(*dialog, 6, 1, 1);
+        const QStringList boxes = closingErrorBoxes([&] { emit presets->activated(saved); });
+        ASSERT_EQ(boxes.size(), 1);
+        EXPECT_TRUE(boxes.first().contains("cannot be read")) << boxes.first().toStdString();
+        EXPECT_EQ(fields(*dialog), std::tuple(6, 1, 1));
+    }
+    // orvan-print --preset with a name nobody saved.
+    WriteCopiesAndPages(m_session.printSettings(), 5, 1, kAllPagesLast);
+    PrintDialog::Options options;
+    options.initialPreset = "Nope";
+    const auto dialog = makeDialog({SamplePrinter()}, options);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->lastError(), "there is no preset named Nope");
+    EXPECT_TRUE(field<QLabel>(*dialog, "StatusLabel")->text().contains("no preset named Nope"));
+    EXPECT_EQ(fields(*dialog), std::tuple(5, 0, 1));
 }
 
 // Switching to the sample printer and back keeps the ticket and leaves no

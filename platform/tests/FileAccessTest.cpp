@@ -35,7 +35,7 @@ protected:
     }
     void writeFile(const std::string& path, mode_t mode)
     {
-        ASSERT_EQ(ReplaceFile(path, "old", FilePrivacy::Shared), "");
+        ASSERT_EQ(ReplaceFile(path, "old", FilePrivacy::Default), "");
         ::chmod(path.c_str(), mode);
     }
 
@@ -52,10 +52,10 @@ TEST_F(FileAccess, ReplacedFilesGetTheModeTheirPrivacyAsks)
         FilePrivacy privacy;
         mode_t after;
     } rows[] = {
-        {"new-shared", 0, FilePrivacy::Shared, 0644},
-        {"new-private", 0, FilePrivacy::Private, 0600},
-        {"kept-shared", 0640, FilePrivacy::Shared, 0640},
-        {"readable-made-private", 0644, FilePrivacy::Private, 0600},
+        {"new-shared", 0, FilePrivacy::Default, 0644},
+        {"new-private", 0, FilePrivacy::OwnerOnly, 0600},
+        {"kept-shared", 0640, FilePrivacy::Default, 0640},
+        {"readable-made-private", 0644, FilePrivacy::OwnerOnly, 0600},
     };
     for (const auto& row : rows) {
         const std::string file = path(row.name);
@@ -76,31 +76,31 @@ TEST_F(FileAccess, LinksAreFollowedAndTheirTargetReplaced)
     ASSERT_EQ(::symlink(link.c_str(), chain.c_str()), 0);
     ASSERT_EQ(::symlink("created", dangling.c_str()), 0);
 
-    EXPECT_EQ(ReplaceFile(chain, "through the chain", FilePrivacy::Private), "");
+    EXPECT_EQ(ReplaceFile(chain, "through the chain", FilePrivacy::OwnerOnly), "");
     EXPECT_TRUE(S_ISLNK(modeOf(link)) && S_ISLNK(modeOf(chain)));
     EXPECT_EQ(contents(target), "through the chain");
-    EXPECT_EQ(ReplaceFile(dangling, "made", FilePrivacy::Shared), "");
+    EXPECT_EQ(ReplaceFile(dangling, "made", FilePrivacy::Default), "");
     EXPECT_TRUE(S_ISLNK(modeOf(dangling)));
     EXPECT_EQ(contents(path("created")), "made");
 }
 
 TEST_F(FileAccess, DevicesAndPipesAreWrittenThroughFoldersRefused)
 {
-    EXPECT_EQ(ReplaceFile("/dev/null", "gone", FilePrivacy::Shared), "");
+    EXPECT_EQ(ReplaceFile("/dev/null", "gone", FilePrivacy::Default), "");
     EXPECT_TRUE(S_ISCHR(modeOf("/dev/null")));
 
     const std::string fifo = path("fifo");
     ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
     const int reader = ::open(fifo.c_str(), O_RDONLY | O_NONBLOCK);
     ASSERT_GE(reader, 0);
-    EXPECT_EQ(ReplaceFile(fifo, "piped", FilePrivacy::Shared), "");
+    EXPECT_EQ(ReplaceFile(fifo, "piped", FilePrivacy::Default), "");
     char got[16] = {};
     EXPECT_EQ(::read(reader, got, sizeof got), 5);
     ::close(reader);
     EXPECT_STREQ(got, "piped");
     EXPECT_TRUE(S_ISFIFO(modeOf(fifo)));
 
-    EXPECT_NE(ReplaceFile(m_dir.path().toStdString(), "x", FilePrivacy::Shared), "");
+    EXPECT_NE(ReplaceFile(m_dir.path().toStdString(), "x", FilePrivacy::Default), "");
     EXPECT_TRUE(S_ISDIR(modeOf(m_dir.path().toStdString())));
 }
 
@@ -118,7 +118,7 @@ TEST_F(FileAccess, TemporariesOfEndedWritersAreClearedOnTheNextWrite)
     for (const std::string& file : {stale, live, other})
         writeFile(file, 0600);
 
-    ASSERT_EQ(ReplaceFile(path("out"), "x", FilePrivacy::Shared), "");
+    ASSERT_EQ(ReplaceFile(path("out"), "x", FilePrivacy::Default), "");
     EXPECT_EQ(modeOf(stale), 0u);
     EXPECT_NE(modeOf(live), 0u);
     EXPECT_NE(modeOf(other), 0u);
@@ -127,7 +127,7 @@ TEST_F(FileAccess, TemporariesOfEndedWritersAreClearedOnTheNextWrite)
 TEST_F(FileAccess, ReadsStopAtTheCap)
 {
     const std::string file = path("four");
-    ASSERT_EQ(ReplaceFile(file, "four", FilePrivacy::Shared), "");
+    ASSERT_EQ(ReplaceFile(file, "four", FilePrivacy::Default), "");
     std::vector<std::uint8_t> bytes;
     EXPECT_EQ(ReadWholeFile(file, 4, bytes), "");
     EXPECT_EQ(bytes.size(), 4u);
@@ -147,12 +147,12 @@ TEST_F(FileAccess, ReadsStopAtTheCap)
 TEST_F(FileAccess, PrivateFoldersAreClosedToOthers)
 {
     const std::string made = path("a/b/private");
-    EXPECT_EQ(MakeFolder(made, FilePrivacy::Private), "");
+    EXPECT_EQ(MakeFolder(made, FilePrivacy::OwnerOnly), "");
     EXPECT_EQ(modeOf(made), S_IFDIR | 0700);
     EXPECT_EQ(modeOf(path("a/b")), S_IFDIR | 0755);
     const std::string open = path("open");
     ASSERT_EQ(::mkdir(open.c_str(), 0755), 0);
-    EXPECT_EQ(MakeFolder(open, FilePrivacy::Private), "");
+    EXPECT_EQ(MakeFolder(open, FilePrivacy::OwnerOnly), "");
     EXPECT_EQ(modeOf(open), S_IFDIR | 0700);
 }
 

@@ -87,7 +87,7 @@ TEST_F(PreferencesTest, DamagedFilesReadAsEmptyAndAreSetAsideBeforeTheNextWrite)
     ASSERT_TRUE(WriteUserPreferences("truncated.plist", value));
     EXPECT_EQ(*CopyUserPreferences("truncated.plist"), value);
     const QStringList aside =
-        QDir(m_dir.filePath("config/orvan")).entryList({"truncated.plist.damaged-*"});
+        QDir(m_dir.filePath("config/orvan")).entryList({"truncated.plist.unreadable-*"});
     ASSERT_EQ(aside.size(), 1);
     QFile kept(m_dir.filePath("config/orvan/" + aside[0]));
     ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
@@ -167,7 +167,7 @@ TEST_F(PreferencesTest, SharedFileParseErrorIsReportedWithItsPosition)
     // Set aside, so that the next write does not destroy it.
     const QStringList left = QDir(m_dir.filePath("shared/Orvan")).entryList({"bad.plist*"});
     ASSERT_EQ(left.size(), 1);
-    EXPECT_TRUE(left[0].startsWith("bad.plist.damaged-")) << left[0].toStdString();
+    EXPECT_TRUE(left[0].startsWith("bad.plist.unreadable-")) << left[0].toStdString();
 }
 
 TEST_F(PreferencesTest, NoApplicationSupportFolderGivesNoLocation)

@@ -245,6 +245,36 @@ std::string_view describe(Type42Result result)
     return "unknown result";
 }
 
+Type42Result convertTTFtoPS42(FontBytes bytes, std::string_view postScriptName,
+                              const Type42Encoding& encoding,
+                              std::span<const Type42Glyph> charStrings, std::string& out,
+                              Type42Diagnostics diagnostics)
+{
+    Type42Font font;
+    const Type42Result read = readType42Font(bytes, font);
+    if (read != Type42Result::Converted) {
+        if (diagnostics == Type42Diagnostics::StandardError)
+            printDiagnostic(read);
+        return read;
+    }
+    const std::string_view name = usablePostScriptName(postScriptName);
+    out.reserve(out.size() + expectedSize(font, name) + 32 * charStrings.size());
+    appendHeader(font, name, encoding, out);
+    if (!appendSfnts(font, out))
+        return Type42Result::CutShort;
+    appendFormatted(out, "/CharStrings %d dict dup begin\n", int(charStrings.size()));
+    for (const Type42Glyph& entry : charStrings) {
+        out += '/';
+        out += entry.name;
+        out += ' ';
+        appendNumber(out, entry.glyph);
+        out += " def\n";
+    }
+    out += "end readonly def\n";
+    out += "FontName currentdict end definefont pop\n";
+    return Type42Result::Converted;
+}
+
 Type42Result convertTTFtoPS42(FontBytes bytes, std::string_view postScriptName, std::string& out,
                               Type42Diagnostics diagnostics)
 {

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "watermark/type42/SfntData.h"
+#include "watermark/type42/Type42Encoding.h"
+
+#include <span>
 
 #include <string>
 #include <string_view>
@@ -59,6 +62,23 @@ enum class Type42Diagnostics
 // appendsNothing() is true `out` is left untouched; on CutShort it ends after
 // the last complete sfnts string. Never reads outside `font`.
 Type42Result convertTTFtoPS42(FontBytes font, std::string_view postScriptName, std::string& out,
+                              Type42Diagnostics diagnostics = Type42Diagnostics::StandardError);
+
+// One CharStrings entry: a glyph name and the glyph index it draws.
+struct Type42Glyph
+{
+    std::string_view name;
+    std::uint16_t glyph = 0;
+};
+
+// The same program with the caller's Encoding and CharStrings instead of the
+// ones made from the font's post table: what a subset font needs, whose
+// glyph names and codes are chosen by its maker. `charStrings` is written in
+// order and should start with ".notdef" at glyph 0; names are used as they
+// are (the caller gives PostScript name characters).
+Type42Result convertTTFtoPS42(FontBytes font, std::string_view postScriptName,
+                              const Type42Encoding& encoding,
+                              std::span<const Type42Glyph> charStrings, std::string& out,
                               Type42Diagnostics diagnostics = Type42Diagnostics::StandardError);
 
 } // namespace orvan

@@ -136,7 +136,7 @@ int main(int argc, char** argv)
     }
 
     const std::string output = arguments.outputPath.value_or("-");
-    if (const auto error = orvan::ReplaceFile(output, program, orvan::FilePrivacy::Shared);
+    if (const auto error = orvan::ReplaceFile(output, program, orvan::FilePrivacy::Default);
         !error.empty())
         return failure(output == "-" ? std::string("standard output") : output, error);
     return 0;

@@ -1,0 +1,88 @@
+// A private watermark file for each test, text watermark records, and
+// measurements of rendered pages.
+#pragma once
+
+#include "watermark/WatermarkData.h"
+#include "watermark/WatermarkStore.h"
+
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QRect>
+#include <QTemporaryDir>
+
+#include <poppler-qt6.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace orvan::test {
+
+// Points the machine-wide data folder (and so the watermark file) into a
+// fresh temporary folder.
+class WatermarkFileTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_dir.isValid());
+        qputenv("ORVAN_SHARED_DATA_DIR", m_dir.path().toUtf8());
+    }
+    void TearDown() override { qunsetenv("ORVAN_SHARED_DATA_DIR"); }
+
+    QString path(const QString& name) const { return m_dir.filePath(name); }
+    QString filePath() const { return WatermarkFilePath(kWatermarkFile); }
+    void writeRaw(const QByteArray& bytes) const
+    {
+        QFile file(filePath());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray readRaw() const
+    {
+        QFile file(filePath());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir m_dir;
+};
+
+inline _WatermarkData textRecord(const char* text, const char* font = "ArialMT", int angle = 45)
+{
+    _WatermarkData record;
+    record.isText = 1;
+    record.textString.assignIfFits(std::string_view(text));
+    record.fontName.assignIfFits(std::string_view(font));
+    record.fontSize = 72;
+    record.angle = angle;
+    record.density = 100;
+    record.scale = 100;
+    record.wellColorBlue = 1;
+    record.wellColorAlpha = 1;
+    return record;
+}
+
+// Page 1 of a PDF at `pixelsPerPoint`; null when it doesn't open.
+inline QImage renderPdf(const QByteArray& pdf, double pixelsPerPoint = 2.0)
+{
+    const std::unique_ptr<Poppler::Document> document = Poppler::Document::loadFromData(pdf);
+    if (!document || document->numPages() < 1)
+        return {};
+    return document->page(0)->renderToImage(72.0 * pixelsPerPoint, 72.0 * pixelsPerPoint);
+}
+
+// Bounds of the pixels that are not white, in pixels.
+inline QRect inkBox(const QImage& image)
+{
+    QRect box;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if ((image.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF)
+                box |= QRect(x, y, 1, 1);
+    return box;
+}
+
+} // namespace orvan::test
