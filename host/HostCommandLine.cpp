@@ -18,6 +18,7 @@ QString HostUsage()
         "  --print               print FILE with the settings, without the dialog; prints the job id\n"
         "  --save-ticket OUT     save the job's settings when Print is chosen (or after --dump-ticket)\n"
         "  --dump-ticket         run the dialog headless and print its tickets as a property list\n"
+        "                        (passcodes hidden; --save-ticket keeps them)\n"
         "  --screenshot OUT.png  render the dialog offscreen to a PNG file\n"
         "  --pane N              with --screenshot, show pane N: 1 the printer features (the\n"
         "                        tabs), 2 Special Pages, 3 Job Notes (the pane pop-up's order)\n"

@@ -1,6 +1,12 @@
 #include "host/PrintDialog.h"
 
+#include "host/DocumentPreparer.h"
 #include "host/JobSubmission.h"
+#include "host/PageSetupView.h"
+#include "host/PaperSizes.h"
+#include "host/PreviewPane.h"
+#include "host/WatermarkStampSource.h"
+#include "printerdesc/PpdFile.h"
 #include "host/PresetPopup.h"
 #include "host/Presets.h"
 #include "printerdesc/PPDAccess.h"
@@ -8,10 +14,15 @@
 #include "shell/CommandEvent.h"
 #include "shell/PDEShell.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QEventLoop>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -22,6 +33,8 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cstdio>
@@ -51,8 +64,15 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
       m_copies(new QSpinBox(this)),
       m_allPages(new QRadioButton(tr("All"), this)), m_pageRange(new QRadioButton(tr("From:"), this)),
       m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_panePopup(new QComboBox(this)),
-      m_paneStack(new QStackedWidget(this)), m_status(new QLabel(this))
+      m_paneStack(new QStackedWidget(this)), m_status(new QLabel(this)),
+      m_pageSetupView(new PageSetupView(m_pageSetup, this)), m_preview(new PreviewPane(this)),
+      m_panelChanged(new QTimer(this))
 {
+    PrinterEntry pdf;
+    pdf.displayName = tr("Save as PDF");
+    pdf.isSample = true; // the panels show the sample printer's choices
+    pdf.savesPdf = true;
+    m_printers.push_back(pdf);
     setObjectName(QStringLiteral("PrintDialog"));
     setWindowTitle(m_options.files.isEmpty()
                        ? tr("Print")
@@ -105,6 +125,21 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     copies->addStretch(1);
     form->addRow(tr("Copies:"), copies);
     form->addRow(tr("Pages:"), pages);
+    form->addRow(m_pageSetupView);
+    for (QAbstractButton* button :
+         {static_cast<QAbstractButton*>(m_allPages), static_cast<QAbstractButton*>(m_pageRange)})
+        connect(button, &QAbstractButton::toggled, this, &PrintDialog::refreshPreview);
+    for (QSpinBox* box : {m_fromPage, m_toPage})
+        connect(box, &QSpinBox::valueChanged, this, &PrintDialog::refreshPreview);
+    connect(m_pageSetupView, &PageSetupView::changed, this, &PrintDialog::pageSetupChanged);
+    m_panelChanged->setSingleShot(true);
+    m_panelChanged->setInterval(400);
+    connect(m_panelChanged, &QTimer::timeout, this, [this] {
+        if (m_pluginRunning)
+            m_plugin.sync(&m_session, false);
+        refreshPreview();
+    });
+    qApp->installEventFilter(this);
 
     // The plug-in's panes, one at a time, chosen from a pop-up as in the
     // system's Print dialogs.
@@ -125,10 +160,16 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(printButton, &QPushButton::clicked, this, &PrintDialog::print);
 
+    auto* controls = new QVBoxLayout;
+    controls->addLayout(form);
+    controls->addLayout(paneRow);
+    controls->addWidget(m_paneStack, 1);
+    auto* columns = new QHBoxLayout;
+    columns->addWidget(m_preview);
+    columns->addSpacing(12);
+    columns->addLayout(controls, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(form);
-    layout->addLayout(paneRow);
-    layout->addWidget(m_paneStack, 1);
+    layout->addLayout(columns, 1);
     layout->addWidget(m_status);
     layout->addWidget(buttons);
 
@@ -150,6 +191,9 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
             [this] { replaceSettings(Ticket(), Ticket()); });
     connect(m_presets, &PresetPopup::presetChosen, this, &PrintDialog::applyPreset);
     connect(m_presets, &PresetPopup::saveChosen, this, &PrintDialog::askPresetName);
+    if (!m_options.files.isEmpty())
+        m_preview->setDocument(m_options.files.first());
+    refreshPreview();
 }
 
 PrintDialog::~PrintDialog()
@@ -173,6 +217,7 @@ void PrintDialog::showTicketInControls()
 
 void PrintDialog::writeControlsToTicket()
 {
+    m_pageSetup.writeTo(m_session, jobName());
     if (m_allPages->isChecked())
         WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), 1, kAllPagesLast);
     else
@@ -266,12 +311,102 @@ void PrintDialog::choosePrinter(int index)
     stopPlugin();
     m_currentPrinter = index;
     QString why;
-    if (!attachPrinter(m_printers[static_cast<std::size_t>(index)], &why))
+    const PrinterEntry& printer = m_printers[static_cast<std::size_t>(index)];
+    if (!attachPrinter(printer, &why))
         m_status->setText(tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
     else
         m_status->clear();
+    offerPapers(printer);
     startPlugin();
 }
+
+void PrintDialog::offerPapers(const PrinterEntry& printer)
+{
+    std::vector<PaperSize> papers;
+    if (!printer.savesPdf) {
+        if (const PpdFilePtr ppd =
+                OpenPPDFile(m_session.currentPrinter().value_or(Printer{}).ppdPath))
+            papers = PapersFromPpd(ppd.get());
+        else if (!printer.queueName.isEmpty())
+            papers = PapersOfQueue(printer.queueName);
+    }
+    if (papers.empty())
+        papers = StandardPapers();
+    m_pageSetup.setPapers(std::move(papers));
+    if (!m_pageSetupRead) { // the first printer: a ticket given to the dialog may hold a page setup
+        m_pageSetup.readFrom(m_session);
+        m_pageSetupRead = true;
+    }
+    m_pageSetupView->showModel();
+    // The panels read the paper, layout and job name from the tickets.
+    m_pageSetup.writeTo(m_session, jobName());
+    refreshPreview();
+}
+
+QString PrintDialog::jobName() const
+{
+    return m_options.files.isEmpty() ? QString() : QFileInfo(m_options.files.first()).fileName();
+}
+
+void PrintDialog::pageSetupChanged()
+{
+    m_pageSetup.writeTo(m_session, jobName());
+    // The panels take the new paper and layout in.
+    if (m_pluginRunning) {
+        m_plugin.sync(&m_session, false);
+        m_plugin.sync(&m_session, true);
+    }
+    refreshPreview();
+}
+
+PreviewSettings PrintDialog::previewSettings() const
+{
+    PreviewSettings settings;
+    settings.setup = m_pageSetup.setup();
+    if (m_pageRange->isChecked()) {
+        settings.firstPage = m_fromPage->value();
+        settings.lastPage = m_toPage->value();
+    }
+    const Ticket& ticket = m_session.printSettings();
+    const QString duplex = ticket.ppdDictionary().find(QStringLiteral("Duplex"))
+                               ? ticket.ppdDictionary().find(QStringLiteral("Duplex"))->toString()
+                               : QString();
+    settings.twoSided =
+        (!duplex.isEmpty() && duplex != QLatin1String("None")) ||
+        ticket.integer(QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")).value_or(1) > 1;
+    settings.watermark = WatermarkStampForSession(m_session, settings.setup.paper.points);
+    return settings;
+}
+
+bool PrintDialog::waitForPreview(int milliseconds)
+{
+    const auto ready = [this] {
+        return m_preview->isShowingPages() || m_preview->problem() != DocumentProblem::None;
+    };
+    QEventLoop loop;
+    connect(m_preview, &PreviewPane::spreadShown, &loop, &QEventLoop::quit);
+    connect(m_preview, &PreviewPane::documentChecked, &loop, &QEventLoop::quit);
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    if (!ready())
+        loop.exec();
+    return ready();
+}
+
+void PrintDialog::refreshPreview()
+{
+    if (m_preview)
+        m_preview->setSettings(previewSettings());
+}
+
+bool PrintDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // A change in a pane: take its settings in once the user pauses.
+    if ((event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease) &&
+        watched->isWidgetType() && m_paneStack->isAncestorOf(static_cast<QWidget*>(watched)))
+        m_panelChanged->start();
+    return QDialog::eventFilter(watched, event);
+}
+
 
 void PrintDialog::fail(const QString& message)
 {
@@ -287,7 +422,11 @@ void PrintDialog::replaceSettings(const Ticket& printSettings, const Ticket& pag
     m_session.printSettings() = printSettings;
     m_session.pageFormat() = pageFormat;
     showTicketInControls();
+    m_pageSetup.readFrom(m_session);
+    m_pageSetupView->showModel();
+    m_pageSetup.writeTo(m_session, jobName());
     startPlugin();
+    refreshPreview();
 }
 
 void PrintDialog::applyPreset(const QString& name)
@@ -345,14 +484,30 @@ void PrintDialog::print()
         }
     }
     const PrinterEntry& printer = m_printers[static_cast<std::size_t>(m_currentPrinter)];
+    for (const QString& file : m_options.files) {
+        QString message;
+        if (CheckDocument(file, &message) != DocumentProblem::None) {
+            fail(message);
+            return;
+        }
+    }
+    if (printer.savesPdf) {
+        if (saveAsPdf())
+            accept();
+        return;
+    }
     if (!m_options.files.isEmpty()) {
         if (printer.queueName.isEmpty() && printer.printerUri.isEmpty()) {
             fail(tr("The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
                     "or save the job's settings with --save-ticket."));
             return;
         }
-        const submission::SubmissionResult sent =
-            SubmitSession(m_session, printer, m_options.files);
+        // No printer filter applies the watermark: the job gets stamped copies.
+        QTemporaryDir copies;
+        QStringList files;
+        if (!stampedCopies(copies, &files))
+            return;
+        const submission::SubmissionResult sent = SubmitSession(m_session, printer, files);
         for (const QString& notice : sent.notices)
             std::fprintf(stderr, "orvan-print: warning: %s\n", notice.toLocal8Bit().constData());
         if (!sent.error.isEmpty()) {
@@ -361,6 +516,61 @@ void PrintDialog::print()
         }
     }
     accept();
+}
+
+bool PrintDialog::saveAsPdf()
+{
+    if (m_options.files.isEmpty()) {
+        fail(tr("There is no document to save as PDF."));
+        return false;
+    }
+    QString path = m_options.pdfPath;
+    if (path.isEmpty()) {
+        const QFileInfo source(m_options.files.first());
+        path = QFileDialog::getSaveFileName(
+            this, tr("Save as PDF"),
+            source.absoluteDir().filePath(source.completeBaseName() + QStringLiteral(".pdf")),
+            tr("PDF files (*.pdf)"));
+        if (path.isEmpty())
+            return false;
+    }
+    const PreviewSettings settings = previewSettings();
+    DocumentPreparation preparation;
+    preparation.firstPage = settings.firstPage;
+    preparation.lastPage = settings.lastPage;
+    preparation.watermark = settings.watermark;
+    preparation.sheets = settings.setup;
+    const PreparationResult result = PrepareDocument(m_options.files.first(), preparation, path);
+    if (!result.ok()) {
+        fail(DocumentProblemText(result.problem, m_options.files.first(), result.detail));
+        return false;
+    }
+    return true;
+}
+
+bool PrintDialog::stampedCopies(const QTemporaryDir& folder, QStringList* files)
+{
+    const std::optional<WatermarkStamp> watermark = previewSettings().watermark;
+    for (const QString& file : m_options.files) {
+        if (!watermark) {
+            *files << file;
+            continue;
+        }
+        DocumentPreparation preparation;
+        preparation.watermark = watermark;
+        std::tie(preparation.firstPage, preparation.lastPage) =
+            PageRangeFromTicket(m_session.printSettings());
+        // The copy keeps the file's name, which names the job.
+        const QString copy = folder.filePath(QStringLiteral("%1/%2").arg(files->size()).arg(QFileInfo(file).fileName()));
+        QDir().mkpath(QFileInfo(copy).path());
+        const PreparationResult result = PrepareDocument(file, preparation, copy);
+        if (!result.ok()) {
+            fail(DocumentProblemText(result.problem, file, result.detail));
+            return false;
+        }
+        *files << copy;
+    }
+    return true;
 }
 
 void PrintDialog::done(int result)

@@ -1,9 +1,11 @@
-// The Print dialog: printer pop-up, copies and pages, the plug-in's pane,
-// Cancel and Print. It owns no job settings itself: everything lives in the
+// The Print dialog: printer pop-up (with "Save as PDF"), copies and pages,
+// the page setup, the preview, the plug-in's panes, Cancel and Print. It owns no job settings itself: everything lives in the
 // print session's tickets, which the plug-in reads and writes on Sync.
 #pragma once
 
+#include "host/PageSetupModel.h"
 #include "host/PluginHost.h"
+#include "host/PreviewRenderer.h"
 #include "host/PrinterList.h"
 #include "host/TemporaryFile.h"
 
@@ -19,9 +21,14 @@ class PresetPopup;
 class QLabel;
 class QRadioButton;
 class QSpinBox;
+class QTemporaryDir;
+class QTimer;
 class QStackedWidget;
 
 namespace orvan {
+
+class PageSetupView;
+class PreviewPane;
 
 class PrintDialog : public QDialog
 {
@@ -31,6 +38,7 @@ public:
         QStringList files;
         QString saveTicketPath; // written on Print when set
         int initialPrinter = 0; // index into printers
+        QString pdfPath;        // where "Save as PDF" writes; asked for when empty
         QString initialPreset;  // applied before the plug-in starts; a failure shows in the dialog
     };
 
@@ -47,9 +55,15 @@ public:
     // pop-up does: the pane leaving the screen writes its values to the
     // tickets, the one coming reads them.
     void showPane(int index);
+    // The settings the preview draws with, from the controls and tickets.
+    PreviewSettings previewSettings() const;
+    // Runs the event loop until the preview shows a sheet or its problem, at
+    // most `milliseconds` (for screenshots); true when it did.
+    bool waitForPreview(int milliseconds);
 
 protected:
     void done(int result) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void choosePrinter(int index);
@@ -60,6 +74,14 @@ private:
     void showTicketInControls();
     void writeControlsToTicket();
     void fail(const QString& message);
+    void offerPapers(const PrinterEntry& printer);
+    void pageSetupChanged();
+    QString jobName() const;
+    void refreshPreview();
+    bool saveAsPdf();
+    // The files as the job sends them: copies with the watermark stamped on
+    // them, in `folder`, when one is selected; else the files themselves.
+    bool stampedCopies(const QTemporaryDir& folder, QStringList* files);
     // Restarts the plug-in on other tickets (a preset, the printer's defaults).
     void replaceSettings(const Ticket& printSettings, const Ticket& pageFormat);
     void applyPreset(const QString& name);
@@ -85,6 +107,11 @@ private:
     QStackedWidget* m_paneStack;
     int m_currentPane = 0;
     QLabel* m_status;
+    PageSetupModel m_pageSetup;
+    PageSetupView* m_pageSetupView;
+    PreviewPane* m_preview;
+    QTimer* m_panelChanged; // the panes' settings are taken in after a pause
+    bool m_pageSetupRead = false;
 };
 
 // The PPD location of a printer entry: its own PPD file when it has one, the

@@ -10,12 +10,14 @@
 
 namespace orvan {
 
-struct PrinterEntry {
+struct PrinterEntry
+{
     QString displayName;
     QString queueName; // empty for the sample printer
     QString ppdFile;   // a PPD file given without a queue; empty otherwise
     bool isDefault = false;
     bool isSample = false;
+    bool savesPdf = false; // "Save as PDF": writes a file instead of printing
     QString printerUri; // an IPP printer given by its address (ipp://...); empty otherwise
 };
 

@@ -105,7 +105,9 @@ int dumpTicket(PluginHost& plugin, PrintSession& session, const QString& saveTo)
     plugin.close();
     plugin.terminate(kNoError);
     QString why;
-    auto xml = writePropertyList(sessionToPropertyList(session), &why);
+    PropertyValue tickets = sessionToPropertyList(session);
+    HideTicketSecrets(tickets); // the passcode stays in the saved ticket only
+    auto xml = writePropertyList(tickets, &why);
     if (!xml)
         return runtimeError(QStringLiteral("cannot write the tickets: %1").arg(why));
     const qsizetype root = xml->indexOf("<plist");
@@ -207,6 +209,8 @@ int main(int argc, char** argv)
             emit tabs->tabBarClicked(line->tab - 1);
             tabs->setCurrentIndex(line->tab - 1);
         }
+        if (!line->files.isEmpty())
+            dialog.waitForPreview(5000);
         QCoreApplication::processEvents();
         if (!dialog.grab().save(line->screenshotPath, "PNG"))
             return runtimeError(QStringLiteral("cannot write %1").arg(line->screenshotPath));

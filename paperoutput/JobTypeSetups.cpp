@@ -1,12 +1,18 @@
 #include "paperoutput/JobTypeSetups.h"
 
+#include "paperoutput/BookletCreation.h"
 #include "paperoutput/JobTypeSetupRules.h"
-#include "platform/Alerts.h"
+#include "paperoutput/LongDateClock.h"
+#include "paperoutput/PaperOutputIcons.h"
 #include "settings/Bundle.h"
+#include "settings/SettingMaps.h"
 #include "shell/PanelText.h"
 #include "stock/StockMenus.h"
+#include "ui/Help.h"
+#include "ui/InputLimitValidator.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/PopupMenus.h"
+#include "ui/XComboBox.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -16,23 +22,77 @@
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
+#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRandomGenerator>
-#include <QRegularExpressionValidator>
 #include <QSpinBox>
 #include <QTimeEdit>
 #include <QVBoxLayout>
+
+#include <functional>
 
 namespace orvan {
 
 namespace {
 
+constexpr int kDialogIconSize = 48;
+
 QString Text(const Bundle* bundle, const char* key)
 {
     return PanelText(bundle, QString::fromLatin1(key));
+}
+
+// A label showing one of the panel's pictures at the given size.
+QLabel* Picture(QWidget* parent, const Bundle* bundle, const QString& imageName, int size,
+                const char* objectName = nullptr)
+{
+    auto* label = new QLabel(parent);
+    if (objectName)
+        label->setObjectName(QLatin1String(objectName));
+    label->setFixedSize(size, size);
+    label->setAlignment(Qt::AlignCenter);
+    if (bundle && !imageName.isEmpty()) {
+        const QPixmap picture(bundle->resourcePath(PaperOutputImagePath(imageName)));
+        if (!picture.isNull())
+            label->setPixmap(
+                picture.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    }
+    label->setToolTip(imageName);
+    return label;
+}
+
+// A setup dialog's frame: the job type's picture on the left, the controls
+// on the right, OK, Cancel and (with a page) Help below. OK runs accept,
+// which closes the dialog when the values may be taken.
+void Frame(QDialog* dialog, const Bundle* bundle, const QString& iconName, QLayout* controls,
+           const QString& helpPage, const std::function<void()>& accept)
+{
+    auto* top = new QHBoxLayout;
+    top->setSpacing(16);
+    if (!iconName.isEmpty())
+        top->addWidget(Picture(dialog, bundle, iconName, kDialogIconSize), 0, Qt::AlignTop);
+    top->addLayout(controls, 1);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
+    SetLocalizedControlTitle(bundle, QStringLiteral("OK Command"),
+                             buttons->button(QDialogButtonBox::Ok));
+    SetLocalizedControlTitle(bundle, QStringLiteral("Cancel Command"),
+                             buttons->button(QDialogButtonBox::Cancel));
+    if (!helpPage.isEmpty()) {
+        buttons->addButton(QDialogButtonBox::Help)->setObjectName(QStringLiteral("HelpButton"));
+        QObject::connect(buttons, &QDialogButtonBox::helpRequested, dialog,
+                         [bundle, helpPage] { DisplayHelp(bundle, helpPage, QString()); });
+    }
+    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    auto* layout = new QVBoxLayout(dialog);
+    layout->addLayout(top);
+    layout->addSpacing(8);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QString DigitsHint(const Bundle* bundle)
@@ -45,66 +105,53 @@ QLineEdit* PasscodeField(QWidget* parent, const char* objectName)
     auto* field = new QLineEdit(parent);
     field->setObjectName(QLatin1String(objectName));
     field->setEchoMode(QLineEdit::Password);
-    field->setMaxLength(kPasscodeMaxDigits);
-    field->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("[0-9]{0,%1}").arg(kPasscodeMaxDigits)), field));
+    field->setMinimumWidth(160);
+    LimitInputLengthAndCharacters(field, kPasscodeMinDigits, kPasscodeMaxDigits,
+                                  CharacterSetFromString(kPasscodeCharacters));
     return field;
 }
 
-// The OK/Cancel buttons of a setup dialog; OK runs accept.
-QDialogButtonBox* Buttons(QDialog* dialog, const Bundle* bundle,
-                          const std::function<void()>& accept)
+// The passcode pair: each field followed by its digit range.
+struct PasscodePair
 {
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
-    SetLocalizedControlTitle(bundle, QStringLiteral("OK Command"),
-                             buttons->button(QDialogButtonBox::Ok));
-    SetLocalizedControlTitle(bundle, QStringLiteral("Cancel Command"),
-                             buttons->button(QDialogButtonBox::Cancel));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-    return buttons;
-}
+    QLineEdit* passcode;
+    QLineEdit* confirmation;
 
-void Tell(const Bundle* bundle, const char* header, const char* message,
-          const QStringList& arguments)
-{
-    Alert alert;
-    alert.title = Text(bundle, header);
-    alert.message = Text(bundle, message);
-    for (const QString& argument : arguments)
-        alert.message = alert.message.arg(argument);
-    ShowAlert(alert);
-}
+    PasscodePair(QWidget* parent, const Bundle* bundle, QFormLayout* form)
+        : passcode(PasscodeField(parent, "PasscodeField")),
+          confirmation(PasscodeField(parent, "ConfirmPasscodeField"))
+    {
+        for (auto [key, field] :
+             {std::pair{"Passcode:", passcode}, std::pair{"ConfirmPasscode:", confirmation}}) {
+            auto* row = new QHBoxLayout;
+            row->addWidget(field, 1);
+            row->addWidget(new QLabel(DigitsHint(bundle), parent));
+            form->addRow(Text(bundle, key), row);
+        }
+    }
 
-// The passcode pair's OK: true when the dialog may close, with *passcode set.
-bool ConfirmPasscodes(const Bundle* bundle, const QString& first, const QString& second,
-                      QString* passcode)
-{
-    const auto random = [] { return QRandomGenerator::global()->generate(); };
-    switch (CheckPasscodePair(first, second, random, passcode)) {
-    case PasscodeVerdict::Mismatch:
-        Tell(bundle, "Invalid Secure Print Passcode Header",
-             "Invalid Secure Print Passcode Message",
-             {QString::number(kPasscodeMinDigits), QString::number(kPasscodeMaxDigits)});
-        return false;
-    case PasscodeVerdict::Generated:
-        Tell(bundle, "Passcode Required Header", "Passcode Required Message",
-             {QString::number(kPasscodeMinDigits), QString::number(kPasscodeMaxDigits), *passcode});
-        return true;
-    case PasscodeVerdict::Accepted:
+    void show(const QString& text) const
+    {
+        passcode->setText(text);
+        confirmation->setText(text);
+    }
+
+    // The confirmation can be typed once the passcode is long enough.
+    void enableConfirmation(bool allowed) const
+    {
+        confirmation->setEnabled(allowed && passcode->text().size() >= kPasscodeMinDigits);
+    }
+
+    // OK: true when the dialog may close; a generated passcode is shown in
+    // both fields and returned in *result.
+    bool confirm(const Bundle* bundle, QString* result) const
+    {
+        if (!ConfirmPasscodePair(bundle, passcode->text(), confirmation->text(), result))
+            return false;
+        show(*result);
         return true;
     }
-    return false;
-}
-
-// The confirmation field follows the passcode: enabled from four characters.
-void LinkConfirmation(QLineEdit* passcode, QLineEdit* confirmation)
-{
-    QObject::connect(passcode, &QLineEdit::textChanged, confirmation,
-                     [confirmation](const QString& text) {
-                         confirmation->setEnabled(text.size() >= kPasscodeMinDigits);
-                     });
-}
+};
 
 } // namespace
 
@@ -115,27 +162,26 @@ bool RunModalSecurePrintSetup(const Bundle* bundle, QString& passcode, QWidget* 
     SetLocalizedWindowTitle(bundle, QStringLiteral("SecurePrintSetupTitle"), &dialog);
     auto* hint = new QLabel(Text(bundle, "SecurePrintHintText"), &dialog);
     hint->setWordWrap(true);
-    QLineEdit* first = PasscodeField(&dialog, "PasscodeField");
-    QLineEdit* second = PasscodeField(&dialog, "ConfirmPasscodeField");
-    LinkConfirmation(first, second);
-    second->setEnabled(false);
-    if (!passcode.isEmpty()) {
-        first->setText(passcode);
-        second->setText(passcode);
-        second->setEnabled(true);
-    }
+    hint->setMinimumWidth(340);
     auto* form = new QFormLayout;
-    form->addRow(Text(bundle, "Passcode:"), first);
-    form->addRow(Text(bundle, "ConfirmPasscode:"), second);
-    form->addRow(QString(), new QLabel(DigitsHint(bundle), &dialog));
+    const PasscodePair pair(&dialog, bundle, form);
+    // A held passcode opens both fields; otherwise the confirmation waits
+    // for a passcode long enough.
+    pair.show(passcode);
+    pair.confirmation->setEnabled(!passcode.isEmpty());
+    QObject::connect(pair.passcode, &QLineEdit::textChanged, &dialog,
+                     [&pair] { pair.enableConfirmation(true); });
+    auto* controls = new QVBoxLayout;
+    controls->addWidget(hint);
+    controls->addSpacing(6);
+    controls->addLayout(form);
     QString result;
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->addWidget(hint);
-    layout->addLayout(form);
-    layout->addWidget(Buttons(&dialog, bundle, [&] {
-        if (ConfirmPasscodes(bundle, first->text(), second->text(), &result))
-            dialog.accept();
-    }));
+    Frame(&dialog, bundle, JobTypeIconName(kJobTypeSecure), controls,
+          QStringLiteral("How_to/m_ht_use_Secure_Print.htm"), [&] {
+              if (pair.confirm(bundle, &result))
+                  dialog.accept();
+          });
+    pair.passcode->setFocus();
     if (dialog.exec() != QDialog::Accepted)
         return false;
     passcode = result;
@@ -149,17 +195,17 @@ bool RunModalDelayedPrintSetup(const Bundle* bundle, std::int64_t& time, QWidget
     SetLocalizedWindowTitle(bundle, QStringLiteral("DelayedPrint"), &dialog);
     auto* when = new QTimeEdit(&dialog);
     when->setObjectName(QStringLiteral("TimeToPrint"));
-    when->setDisplayFormat(QStringLiteral("HH:mm"));
-    when->setTime(time > 0 ? DateTimeFromSeconds1904(time).time() : QTime::currentTime());
+    when->setDisplayFormat(QStringLiteral("HH:mm:ss"));
+    when->setMinimumWidth(140);
+    when->setTime(time != 0 ? SecondsToLongDate(time).time() : CurrentLocalDateTime().time());
     auto* form = new QFormLayout;
     form->addRow(Text(bundle, "TimeToPrint:"), when);
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->addLayout(form);
-    layout->addWidget(Buttons(&dialog, bundle, [&dialog] { dialog.accept(); }));
+    Frame(&dialog, bundle, JobTypeIconName(kJobTypeDelayed), form,
+          QStringLiteral("How_to/m_ht_use_Delayed_Print.htm"), [&dialog] { dialog.accept(); });
     when->setFocus();
     if (dialog.exec() != QDialog::Accepted)
         return false;
-    time = DelayedPrintSeconds(when->time(), QDateTime::currentDateTime());
+    time = DelayedPrintSeconds(when->time(), CurrentLocalDateTime());
     return true;
 }
 
@@ -168,39 +214,29 @@ bool RunModalSavedJobDialog(const Bundle* bundle, PaperOutputRecord& record, QWi
     QDialog dialog(parent);
     dialog.setObjectName(QStringLiteral("SavedJobDialog"));
     SetLocalizedWindowTitle(bundle, QStringLiteral("Saved Job"), &dialog);
-    const QString useJobName = Text(bundle, "UseJobName");
-    const QString publicFolder = Text(bundle, "PublicFolder");
-    auto* name = new QComboBox(&dialog);
-    name->setObjectName(QStringLiteral("SavedJobName"));
-    name->setEditable(true);
-    name->addItem(useJobName);
-    name->setCurrentText(record.useJobName ? useJobName : record.savedJobName);
-    auto* folder = new QComboBox(&dialog);
-    folder->setObjectName(QStringLiteral("SavedJobFolder"));
-    folder->setEditable(true);
-    folder->addItem(publicFolder);
-    folder->setCurrentText(record.defaultLocation ? publicFolder : record.savedJobLocation);
+
+    const auto historyBox = [&](const char* objectName, const _SettingMap* map,
+                                const char* historyKey) {
+        auto* box = new QComboBox(&dialog);
+        box->setObjectName(QLatin1String(objectName));
+        box->setMinimumWidth(220);
+        _XComboBoxOptions options;
+        options.bundle = bundle;
+        options.map = map;
+        options.historyKey = QLatin1String(historyKey);
+        options.historyLimit = 10;
+        options.secondLimit = 255;
+        XComboBoxInitializeWithMapAndHistory(box, options);
+        return box;
+    };
+    QComboBox* name = historyBox("SavedJobName", _JobNameMap, "savedJobNames");
+    QComboBox* folder = historyBox("SavedJobFolder", _FolderNameMap, "folderNames");
     auto* save = new QRadioButton(Text(bundle, "Save"), &dialog);
     auto* savePrint = new QRadioButton(Text(bundle, "SavePrint"), &dialog);
     save->setObjectName(QStringLiteral("SaveRadio"));
     savePrint->setObjectName(QStringLiteral("SavePrintRadio"));
-    (record.saveDisposition == kSaveAndPrint ? savePrint : save)->setChecked(true);
     auto* secure = new QCheckBox(Text(bundle, "withPasscode"), &dialog);
     secure->setObjectName(QStringLiteral("WithPasscode"));
-    QLineEdit* first = PasscodeField(&dialog, "PasscodeField");
-    QLineEdit* second = PasscodeField(&dialog, "ConfirmPasscodeField");
-    if (!record.securePrintPasscode.isEmpty()) {
-        first->setText(record.securePrintPasscode);
-        second->setText(record.securePrintPasscode);
-    }
-    const auto enablePasscodes = [=](bool on) {
-        first->setEnabled(on);
-        second->setEnabled(on);
-    };
-    QObject::connect(secure, &QCheckBox::toggled, &dialog, enablePasscodes);
-    secure->setChecked(record.withPasscode);
-    enablePasscodes(record.withPasscode);
-
     auto* options = new QHBoxLayout;
     options->addWidget(save);
     options->addWidget(savePrint);
@@ -210,117 +246,210 @@ bool RunModalSavedJobDialog(const Bundle* bundle, PaperOutputRecord& record, QWi
     form->addRow(Text(bundle, "Folder:"), folder);
     form->addRow(QString(), options);
     form->addRow(Text(bundle, "SecureSavedJob:"), secure);
-    form->addRow(Text(bundle, "Passcode:"), first);
-    form->addRow(Text(bundle, "ConfirmPasscode:"), second);
-    form->addRow(QString(), new QLabel(DigitsHint(bundle), &dialog));
-    QString passcode;
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->addLayout(form);
-    layout->addWidget(Buttons(&dialog, bundle, [&] {
-        if (!secure->isChecked() ||
-            ConfirmPasscodes(bundle, first->text(), second->text(), &passcode))
-            dialog.accept();
-    }));
-    if (dialog.exec() != QDialog::Accepted)
-        return false;
-    record.saveDisposition = savePrint->isChecked() ? kSaveAndPrint : kSaveOnly;
-    const QString typedName = name->currentText().trimmed();
-    record.useJobName = typedName.isEmpty() || typedName == useJobName;
-    if (!record.useJobName)
-        record.savedJobName = typedName;
-    const QString typedFolder = folder->currentText().trimmed();
-    record.defaultLocation = typedFolder.isEmpty() || typedFolder == publicFolder;
-    if (!record.defaultLocation)
-        record.savedJobLocation = typedFolder;
-    record.withPasscode = secure->isChecked();
-    if (record.withPasscode)
-        record.securePrintPasscode = passcode;
-    return true;
+    const PasscodePair pair(&dialog, bundle, form);
+    // The job is stored in the format it is sent in (PDF), in the printer's
+    // default colour.
+    auto* format = new QHBoxLayout;
+    format->addWidget(Picture(&dialog, bundle, QStringLiteral("JobType_JobFormat_PDF.gif"), 32,
+                              "JobFormatPicture"));
+    format->addWidget(Picture(&dialog, bundle, QStringLiteral("OutputColor_PrnDef.gif"), 32));
+    format->addStretch(1);
+    form->addRow(Text(bundle, "Job Format:"), format);
+    auto* status = new QLabel(&dialog);
+    status->setObjectName(QStringLiteral("StatusText"));
+    status->setEnabled(false);
+
+    const auto enablePasscodes = [&pair, secure] {
+        pair.passcode->setEnabled(secure->isChecked());
+        pair.enableConfirmation(secure->isChecked());
+    };
+    QObject::connect(secure, &QCheckBox::toggled, &dialog, enablePasscodes);
+    QObject::connect(pair.passcode, &QLineEdit::textChanged, &dialog, enablePasscodes);
+
+    // Restore.
+    const SavedJobUIValues restored = RestoreUIValuesFromData(record);
+    (restored.saveDisposition == kSaveAndPrint ? savePrint : save)->setChecked(true);
+    XComboBoxSetValue(name, restored.jobName);
+    XComboBoxSetValue(folder, restored.folder);
+    secure->setChecked(restored.withPasscode);
+    if (!restored.passcode.isEmpty())
+        pair.show(restored.passcode);
+    enablePasscodes();
+    status->setText(Text(bundle, "Values restored."));
+
+    auto* controls = new QVBoxLayout;
+    controls->addLayout(form);
+    controls->addWidget(status);
+    Frame(&dialog, bundle, JobTypeIconName(kJobTypeSavedJob), controls,
+          QStringLiteral("Paper_Output/Job_Type/saved_job_e.htm"), [&] {
+              QString passcode;
+              if (!secure->isChecked() || pair.confirm(bundle, &passcode))
+                  dialog.accept();
+          });
+    const bool confirmed = dialog.exec() == QDialog::Accepted;
+    if (confirmed) {
+        SavedJobUIValues values;
+        values.saveDisposition = savePrint->isChecked() ? kSaveAndPrint : kSaveOnly;
+        XComboBoxCopyValue(name, values.jobName);
+        XComboBoxCopyValue(folder, values.folder);
+        values.withPasscode = secure->isChecked();
+        values.passcode = pair.passcode->text();
+        SaveUIValuesToData(values, record);
+    }
+    XComboBoxFinalize(name, confirmed);
+    XComboBoxFinalize(folder, confirmed);
+    return confirmed;
 }
 
-bool RunModalBookletCreationDialog(const Bundle* bundle, BookletCreationParams& params,
-                                   QWidget* parent)
+namespace {
+
+bool RunBookletDialog(const Bundle* bundle, BookletCreationParams& params, QWidget* parent,
+                      const QString& objectName, const QString& titleKey)
 {
     QDialog dialog(parent);
-    dialog.setObjectName(QStringLiteral("BookletCreation"));
-    SetLocalizedWindowTitle(bundle, QStringLiteral("Booklet Creation"), &dialog);
+    dialog.setObjectName(objectName);
+    SetLocalizedWindowTitle(bundle, titleKey, &dialog);
 
-    auto* finishing = new QGroupBox(Text(bundle, "Booklet Finishing:"), &dialog);
-    auto* folds = new QButtonGroup(&dialog);
-    auto* finishingLayout = new QVBoxLayout(finishing);
-    for (const auto& [key, value] :
-         {std::pair{"None", kFinishingNone}, std::pair{"Booklet Fold", kBookletFold},
-          std::pair{"Booklet Fold and Staple", kBookletFoldStaple}}) {
-        auto* radio = new QRadioButton(Text(bundle, key), finishing);
-        folds->addButton(radio, value);
-        finishingLayout->addWidget(radio);
-    }
-    const int fold = params.fold == kBookletFold || params.fold == kBookletFoldStaple
-                         ? params.fold
-                         : kFinishingNone;
-    folds->button(fold)->setChecked(true);
-
-    auto* layoutBox = new QGroupBox(Text(bundle, "Booklet Layout:"), &dialog);
-    auto* layouts = new QButtonGroup(&dialog);
-    auto* layoutLayout = new QVBoxLayout(layoutBox);
-    for (const auto& [key, value] :
-         {std::pair{"None", kBookletLayoutOff}, std::pair{"Booklet Layout", kBookletLayoutOn}}) {
-        auto* radio = new QRadioButton(Text(bundle, key), layoutBox);
-        radio->setObjectName(value == kBookletLayoutOn ? QStringLiteral("BookletLayoutOn")
-                                                       : QStringLiteral("BookletLayoutOff"));
-        layouts->addButton(radio, value);
-        layoutLayout->addWidget(radio);
-    }
-    layouts->button(params.layout == kBookletLayoutOn ? kBookletLayoutOn : kBookletLayoutOff)
-        ->setChecked(true);
+    const auto radios = [&](const char* titleKey,
+                            std::initializer_list<std::pair<const char*, const char*>> rows) {
+        auto* box = new QGroupBox(Text(bundle, titleKey), &dialog);
+        auto* group = new QButtonGroup(box);
+        auto* column = new QVBoxLayout(box);
+        int id = 0;
+        for (const auto& [key, objectName] : rows) {
+            auto* radio = new QRadioButton(Text(bundle, key), box);
+            radio->setObjectName(QLatin1String(objectName));
+            group->addButton(radio, id++);
+            column->addWidget(radio);
+        }
+        column->addStretch(1);
+        return std::pair{box, group};
+    };
+    const auto [foldBox, folds] =
+        radios("Booklet Finishing:", {{"None", "FoldNone"},
+                                      {"Booklet Fold", "BookletFold"},
+                                      {"Booklet Fold and Staple", "BookletFoldStaple"}});
+    const auto [layoutBox, layouts] = radios(
+        "Booklet Layout:", {{"None", "BookletLayoutOff"}, {"Booklet Layout", "BookletLayoutOn"}});
 
     auto* outlines = new QCheckBox(Text(bundle, "Draw Outlines"), &dialog);
-    outlines->setChecked(params.drawOutlines == kDrawOutlinesOn);
+    outlines->setObjectName(QStringLiteral("DrawOutlines"));
     auto* size = new QComboBox(&dialog);
+    size->setObjectName(QStringLiteral("NewSize"));
     MenuModel sizes;
     PopulateStockSizeMenu(sizes, bundle, JobContext::Job);
     sizes.insertAfter(0, {Text(bundle, "Off"), 0, kUnset, false});
     FillPopupButton(size, sizes, sizes.count());
+    auto* gutter = new QSpinBox(&dialog);
+    gutter->setObjectName(QStringLiteral("Gutter"));
+    gutter->setRange(kGutterMinimum, kGutterMaximum);
+    auto* creep = new QDoubleSpinBox(&dialog);
+    creep->setObjectName(QStringLiteral("Creep"));
+    creep->setDecimals(1);
+    creep->setSingleStep(1.0 / kCreepStepsPerPoint);
+    creep->setRange(kCreepMinimum / kCreepStepsPerPoint, kCreepMaximum / kCreepStepsPerPoint);
+    const QLocale locale;
+    auto* gutterRange =
+        new QLabel(Text(bundle, "Gutter Range Label")
+                       .arg(QString::number(kGutterMinimum), QString::number(kGutterMaximum)),
+                   &dialog);
+    auto* creepRange =
+        new QLabel(Text(bundle, "Creep Range Label")
+                       .arg(locale.toString(kCreepMinimum / kCreepStepsPerPoint, 'f', 1),
+                            locale.toString(kCreepMaximum / kCreepStepsPerPoint, 'f', 1)),
+                   &dialog);
+    auto* sizeLabel = new QLabel(Text(bundle, "Fit to New Size Label"), &dialog);
+    auto* gutterLabel = new QLabel(Text(bundle, "Gutter Label"), &dialog);
+    auto* creepLabel = new QLabel(Text(bundle, "Creep Label"), &dialog);
+    auto* details = new QGridLayout;
+    details->addWidget(outlines, 0, 1, 1, 2);
+    details->addWidget(sizeLabel, 1, 0, Qt::AlignRight);
+    details->addWidget(size, 1, 1, 1, 2);
+    details->addWidget(gutterLabel, 2, 0, Qt::AlignRight);
+    details->addWidget(gutter, 2, 1);
+    details->addWidget(gutterRange, 2, 2);
+    details->addWidget(creepLabel, 3, 0, Qt::AlignRight);
+    details->addWidget(creep, 3, 1);
+    details->addWidget(creepRange, 3, 2);
+    details->setColumnStretch(2, 1);
+
+    auto* preview = new QLabel(&dialog);
+    preview->setObjectName(QStringLiteral("BookletPreview"));
+    preview->setFixedSize(96, 96);
+    preview->setAlignment(Qt::AlignCenter);
+    preview->setFrameShape(QFrame::StyledPanel);
+
+    const auto current = [&, folds = folds, layouts = layouts] {
+        BookletCreationParams shown = params;
+        shown.fold = FoldForRadio(folds->checkedId());
+        shown.layout = LayoutForRadio(layouts->checkedId());
+        shown.drawOutlines = outlines->isChecked() ? kDrawOutlinesOn : kDrawOutlinesOff;
+        shown.newSize = GetPopupButtonTicketValue(size);
+        shown.gutter = gutter->value();
+        shown.creep = static_cast<std::int32_t>(qRound(creep->value() * kCreepStepsPerPoint));
+        return shown;
+    };
+    const auto refresh = [&] {
+        const BookletCreationParams shown = current();
+        const bool on = BookletDetailsEnabled(shown.layout);
+        for (QWidget* control :
+             std::initializer_list<QWidget*>{outlines, size, sizeLabel, gutter, gutterLabel,
+                                             gutterRange, creep, creepLabel, creepRange})
+            control->setEnabled(on);
+        const QString imageName = BookletPreviewImageName(shown);
+        if (preview->toolTip() != imageName) {
+            const QPixmap picture(bundle ? bundle->resourcePath(PaperOutputImagePath(imageName))
+                                         : QString());
+            preview->setPixmap(picture.isNull() ? QPixmap()
+                                                : picture.scaled(88, 88, Qt::KeepAspectRatio,
+                                                                 Qt::SmoothTransformation));
+            preview->setToolTip(imageName);
+        }
+    };
+
+    // Write the values to the controls.
+    folds->button(FoldRadioIndex(params.fold))->setChecked(true);
+    layouts->button(LayoutRadioIndex(params.layout))->setChecked(true);
+    outlines->setChecked(params.drawOutlines == kDrawOutlinesOn);
     if (!SetPopupButtonToTicketValue(size, params.newSize))
         size->setCurrentIndex(0);
-    auto* gutter = new QSpinBox(&dialog);
-    gutter->setRange(0, 216);
     gutter->setValue(params.gutter);
-    auto* creep = new QDoubleSpinBox(&dialog);
-    creep->setRange(0.0, 10.0);
-    creep->setDecimals(1);
-    creep->setSingleStep(0.1);
-    creep->setValue(params.creep / 10.0);
-    auto* details = new QFormLayout;
-    details->addRow(QString(), outlines);
-    details->addRow(Text(bundle, "Fit to New Size Label"), size);
-    details->addRow(Text(bundle, "Gutter Label"), gutter);
-    details->addRow(Text(bundle, "Creep Label"), creep);
-    // Outlines, size, gutter and creep belong to the layout: disabled, but
-    // kept, while it is off.
-    const auto enableDetails = [=] {
-        const bool on = layouts->checkedId() == kBookletLayoutOn;
-        for (QWidget* control : {static_cast<QWidget*>(outlines), static_cast<QWidget*>(size),
-                                 static_cast<QWidget*>(gutter), static_cast<QWidget*>(creep)})
-            control->setEnabled(on);
-    };
-    QObject::connect(layouts, &QButtonGroup::idClicked, &dialog, enableDetails);
-    enableDetails();
+    creep->setValue(params.creep / kCreepStepsPerPoint);
+    refresh();
+    QObject::connect(folds, &QButtonGroup::idClicked, &dialog, refresh);
+    QObject::connect(layouts, &QButtonGroup::idClicked, &dialog, refresh);
+    QObject::connect(outlines, &QCheckBox::toggled, &dialog, refresh);
 
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->addWidget(finishing);
-    layout->addWidget(layoutBox);
-    layout->addLayout(details);
-    layout->addWidget(Buttons(&dialog, bundle, [&dialog] { dialog.accept(); }));
+    auto* choices = new QHBoxLayout;
+    choices->addWidget(foldBox, 1);
+    choices->addWidget(layoutBox, 1);
+    choices->addWidget(preview, 0, Qt::AlignTop);
+    auto* controls = new QVBoxLayout;
+    controls->addLayout(choices);
+    controls->addLayout(details);
+    Frame(&dialog, bundle, QString(), controls,
+          QStringLiteral("Paper_Output/Finishing/M_Booklet_Creation_Overview.htm"),
+          [&dialog] { dialog.accept(); });
     if (dialog.exec() != QDialog::Accepted)
         return false;
-    params.fold = folds->checkedId();
-    params.layout = layouts->checkedId();
-    params.drawOutlines = outlines->isChecked() ? kDrawOutlinesOn : kDrawOutlinesOff;
-    params.newSize = GetPopupButtonTicketValue(size);
-    params.gutter = gutter->value();
-    params.creep = static_cast<std::int32_t>(qRound(creep->value() * 10.0));
+    params = BookletValuesRead(params, current());
     return true;
+}
+
+} // namespace
+
+bool RunModalBookletCreationDialog(const Bundle* bundle, BookletCreationParams& params,
+                                   QWidget* parent)
+{
+    return RunBookletDialog(bundle, params, parent, QStringLiteral("BookletCreation"),
+                            QStringLiteral("Booklet Creation"));
+}
+
+bool RunModalBookletOptionsDialog(const Bundle* bundle, BookletCreationParams& params,
+                                  QWidget* parent)
+{
+    return RunBookletDialog(bundle, params, parent, QStringLiteral("BookletOptions"),
+                            QStringLiteral("Booklet Options Title"));
 }
 
 } // namespace orvan

@@ -303,6 +303,17 @@ PanelBase::Description PaperOutputPanel::describe() const
     return describeAs(kPaperOutputTitleKey);
 }
 
+bool PaperOutputPanel::runBookletCreation(QWidget* parent)
+{
+    BookletCreationParams params = BookletParamsFromRecord(model().record());
+    if (!RunModalBookletCreationDialog(bundle(), params, parent))
+        return false;
+    model().applyBookletCreation(params);
+    if (view())
+        view()->showModel();
+    return true;
+}
+
 Status PaperOutputPanel::loadModel(PrintSession* session)
 {
     if (!session)

@@ -59,7 +59,8 @@ private:
     QLabel* m_finishingIcon;
 };
 
-class PaperOutputPanel : public ModelPanel<PaperOutputModel, PaperOutputView>
+class PaperOutputPanel : public ModelPanel<PaperOutputModel, PaperOutputView>,
+                         public BookletCreationSource
 {
 public:
     // The bundle is the shell's (the plug-in's own) unless given.
@@ -69,6 +70,9 @@ public:
     // Title "PaperOutput".
     Description describe() const override;
     PrintGuardSource* printGuardSource() override { return &model(); }
+    // Other panels open the booklet creation dialog on this panel's record.
+    BookletCreationSource* bookletCreationSource() override { return this; }
+    bool runBookletCreation(QWidget* parent) override;
 
 protected:
     // Fills the model from the current PPD and installed features, reads the

@@ -4,6 +4,9 @@
 // and the print-settings ticket keys it travels under.
 #pragma once
 
+#include "fax/FaxOptions.h"        // kFaxOptionsKey
+#include "fax/FaxRecipient.h"      // kFaxRecipientListKey
+#include "settings/PageFormat.h" // the job name and orientation keys
 #include "settings/PropertyValue.h"
 #include "specialpages/Cover.h"
 #include "specialpages/SpecialPageKeys.h" // the job-level stock and booklet layout keys
@@ -39,10 +42,6 @@ inline const QString kBookletForceNewSizeKey =
     QStringLiteral("com.orvan.print.BookletForceNewSize");
 inline const QString kGutterKey = QStringLiteral("com.orvan.print.Gutter");
 inline const QString kCreepKey = QStringLiteral("com.orvan.print.Creep");
-inline const QString kFaxOptionsKey = QStringLiteral("com.orvan.print.FaxOptions");
-inline const QString kFaxRecipientListKey = QStringLiteral("com.orvan.print.FaxRecipientList");
-inline const QString kJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
-inline const QString kOrientationKey = QStringLiteral("com.apple.print.PageFormat.PMOrientation");
 inline const QString kStockSizeKey = QStringLiteral("Size");
 
 // Keys of the job-type dictionary.
@@ -151,7 +150,7 @@ struct PaperOutputRecord
     long saveDisposition = kSaveOnly;
     long jobTypeMediaType = 0;
     QString securePrintPasscode;
-    std::int64_t delayedPrintTime = 0; // seconds since 1904-01-01 00:00 local time
+    std::int64_t delayedPrintTime = 0; // long date-time seconds (LongDateClock.h)
 
     // Office finishing.
     long finishingOption = kFinishingOptionNone;

@@ -30,6 +30,10 @@ void ShowAlert(const Alert& alert)
         presenter()(alert);
         return;
     }
+    if (alert.holdsSecret) {
+        std::fprintf(stderr, "%s\n", alert.title.toUtf8().constData());
+        return;
+    }
     std::fprintf(stderr, "%s: %s\n", alert.title.toUtf8().constData(),
                  alert.message.toUtf8().constData());
 }

@@ -15,6 +15,9 @@ struct Alert {
     AlertLevel level = AlertLevel::Caution;
     QString title;
     QString message;
+    // The message holds a secret (a passcode the system made): shown to the
+    // user, never written to a stream or log.
+    bool holdsSecret = false;
 
     friend bool operator==(const Alert&, const Alert&) = default;
 };

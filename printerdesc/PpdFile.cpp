@@ -129,6 +129,29 @@ std::optional<PpdCustomSizeLimits> PpdCustomLimits(ppd_file_t* ppd)
                                ppd->custom_max[1]};
 }
 
+std::vector<PpdPageSize> PpdPageSizes(ppd_file_t* ppd)
+{
+    std::vector<PpdPageSize> sizes;
+    if (!ppd)
+        return sizes;
+    ppd_option_t* option = ppdFindOption(ppd, "PageSize");
+    const QByteArray defaultChoice = option ? QByteArray(option->defchoice) : QByteArray();
+    for (int i = 0; i < ppd->num_sizes; ++i) {
+        const ppd_size_t& size = ppd->sizes[i];
+        const QByteArray keyword(size.name);
+        if (keyword == "Custom" || size.width <= 0 || size.length <= 0)
+            continue;
+        ppd_choice_t* choice = option ? ppdFindChoice(option, size.name) : nullptr;
+        PpdPageSize entry{keyword, choice ? QByteArray(choice->text) : keyword, size.width,
+                          size.length};
+        if (keyword == defaultChoice)
+            sizes.insert(sizes.begin(), std::move(entry));
+        else
+            sizes.push_back(std::move(entry));
+    }
+    return sizes;
+}
+
 std::optional<QString> FetchQueuePPDFile(const QString& queueName, QString* error)
 {
     const char* path = cupsGetPPD2(CUPS_HTTP_DEFAULT, queueName.toUtf8().constData());

@@ -70,6 +70,19 @@ struct PpdCustomSizeLimits
 };
 std::optional<PpdCustomSizeLimits> PpdCustomLimits(ppd_file_t* ppd);
 
+// A named page size of the PPD ("PageSize" choice with its "PaperDimension"),
+// width and height in points as the printer feeds the sheet.
+struct PpdPageSize
+{
+    QByteArray keyword;
+    QByteArray text;
+    double width;
+    double height;
+};
+// The named page sizes in PPD order (custom sizes left out), the default
+// choice first; empty when the PPD has none.
+std::vector<PpdPageSize> PpdPageSizes(ppd_file_t* ppd);
+
 // The PPD of a CUPS queue, fetched from the server into a temporary file the
 // caller owns (and removes); nullopt with the server's reason when the queue
 // has none or the server cannot be reached.

@@ -12,7 +12,7 @@ if command -v ccache >/dev/null; then
 fi
 cmake --preset fuzz -UORVAN_SUBSYSTEMS "${launcher[@]}" >/dev/null
 cmake --build build-fuzz -j2 --target fuzz_property_list fuzz_pageranges type42_fuzzer type42_fuzz_seeds \
-    watermark_file_fuzzer
+    watermark_file_fuzzer fuzz_vcard
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -22,6 +22,7 @@ build-fuzz/fuzz/type42_fuzz_seeds "$work/type42_fuzzer"
 cp -r fuzz/plist/corpus "$work/fuzz_property_list"
 cp -r fuzz/pageranges/corpus "$work/fuzz_pageranges"
 cp -r fuzz/watermark/corpus "$work/watermark_file_fuzzer"
+cp -r fuzz/vcard/corpus "$work/fuzz_vcard"
 
 # fuzzer [extra libFuzzer flags...]: runs it on a copy of its corpus, so that
 # what it finds stays out of the source tree.
@@ -40,3 +41,4 @@ fuzz fuzz_property_list
 fuzz fuzz_pageranges
 fuzz type42_fuzzer -dict=fuzz/type42/type42.dict
 fuzz watermark_file_fuzzer -dict=fuzz/watermark/watermark.dict
+fuzz fuzz_vcard

@@ -9,7 +9,7 @@ packages=(
   libqt6svg6
   libcups2-dev cups cups-client cups-ipp-utils cups-filters dbus-daemon
   libcairo2-dev libharfbuzz-dev libfreetype-dev libfontconfig-dev
-  libpoppler-qt6-dev
+  libpoppler-qt6-dev libqpdf-dev
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   ghostscript poppler-utils
   fonts-liberation fonts-dejavu-core fonts-droid-fallback

@@ -29,6 +29,8 @@ inline constexpr Status kOkCommandConsumed = -12345678;
 // An operation stopped at the plug-in boundary by a C++ exception that its
 // code did not handle; the host keeps running and sees this status.
 inline constexpr Status kUnexpectedFailure = -9536;
+// The address book could not be written (its folder or a contact file).
+inline constexpr Status kAddressBookWriteFailed = -36;
 // Query-interface for an interface the object does not offer.
 inline constexpr Status kNoSuchInterface = static_cast<Status>(0x80000004u);
 

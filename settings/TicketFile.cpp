@@ -280,4 +280,19 @@ bool loadTicketFile(const QString& path, PrintSession& session, QString* error)
     return true;
 }
 
+void HideTicketSecrets(PropertyValue& value)
+{
+    if (value.isArray()) {
+        for (PropertyValue& element : value.asArray())
+            HideTicketSecrets(element);
+    } else if (value.isDictionary()) {
+        for (auto& [key, element] : value.asDictionary()) {
+            if (key == QLatin1String("SecurePrintPassword"))
+                element = PropertyValue(kHiddenSecret);
+            else
+                HideTicketSecrets(element);
+        }
+    }
+}
+
 } // namespace orvan

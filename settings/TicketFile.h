@@ -55,10 +55,16 @@ PropertyValue sessionToPropertyList(const PrintSession& session);
 bool sessionFromPropertyList(const PropertyValue& value, PrintSession& session,
                              QString* error = nullptr);
 
-// Whole files. Saving writes privately (0600: a ticket may hold a passcode)
-// through WritePropertyListFile; loading reads at most
+// Whole files. Saving replaces the file atomically, readable by its owner
+// only (0600: a ticket may hold a passcode); loading reads at most
 // kMaxPropertyListFileSize bytes.
 bool saveTicketFile(const QString& path, const PrintSession& session, QString* error = nullptr);
 bool loadTicketFile(const QString& path, PrintSession& session, QString* error = nullptr);
+
+// Replaces, anywhere in a property list, the value of every item that holds a
+// passcode ("SecurePrintPassword") by kHiddenSecret: for tickets that are
+// printed or logged rather than sent with the job.
+inline const QString kHiddenSecret = QStringLiteral("(hidden)");
+void HideTicketSecrets(PropertyValue& value);
 
 } // namespace orvan

@@ -15,6 +15,7 @@ namespace orvan {
 const char* const _PanelInterfaces[] = {
     "GetPaperOutputPanelInterface",
     "GetImageOptionsPanelInterface",
+    "GetBookletWatermarkPanelInterface",
     "GetAdvancedPanelInterface",
     nullptr,
 };
@@ -241,6 +242,18 @@ bool ShellHandleControlHit(PDEShellContext* context, std::int32_t controlID, std
     default:
         return false;
     }
+}
+
+BookletCreationSource* ShellBookletCreationSource(PDEShellContext* context)
+{
+    if (!context)
+        return nullptr;
+    for (const LoadedPanel& panel : context->panels)
+        if (panel.context && panel.tabNumber != -1)
+            if (BookletCreationSource* source =
+                    static_cast<PanelContextBase*>(panel.context)->bookletCreationSource())
+                return source;
+    return nullptr;
 }
 
 OkGuardDecision ShellOkGuard(PDEShellContext* context)

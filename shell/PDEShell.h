@@ -31,13 +31,25 @@ public:
     virtual void runFaxSetup() = 0;
 };
 
+// The panel that owns the booklet values (the Paper/Output panel) runs the
+// booklet creation dialog on its own record for any panel that offers it, so
+// the job has one set of booklet values however the user reaches them.
+class BookletCreationSource
+{
+public:
+    virtual ~BookletCreationSource() = default;
+    // Runs the dialog over `parent` and keeps its values on OK (true).
+    virtual bool runBookletCreation(QWidget* parent) = 0;
+};
+
 // Every panel context of this plug-in derives from this, so the shell can
-// ask the first panel for its guard source.
+// ask the first panel for its guard source and find the booklet values.
 class PanelContextBase
 {
 public:
     virtual ~PanelContextBase() = default;
     virtual PrintGuardSource* printGuardSource() { return nullptr; }
+    virtual BookletCreationSource* bookletCreationSource() { return nullptr; }
 };
 
 // One loaded panel, in tab order.
@@ -73,6 +85,10 @@ struct PDEShellContext {
     ShellView* view = nullptr;
     bool firstSyncDone = false;
 };
+
+// The first loaded panel that runs the booklet creation dialog; null when
+// none does or there is no shell.
+BookletCreationSource* ShellBookletCreationSource(PDEShellContext* context);
 
 // The built-in panels, in tab order; null-terminated.
 extern const char* const _PanelInterfaces[];

@@ -9,6 +9,7 @@
 //   rows selected before it do not count).
 #pragma once
 
+#include "settings/PageFormat.h" // the N-up layout key
 #include "settings/PropertyValue.h"
 #include "settings/Status.h"
 #include "specialpages/DialogMode.h"
@@ -28,8 +29,8 @@ class PrintSession;
 class Ticket;
 
 inline const QString kSpecialPagesTitleKey = QStringLiteral("Special Pages");
-// The platform's n-up layout flag; booklet layout is kBookletLayoutKey.
-inline const QString kLayoutNUpKey = QStringLiteral("com.apple.print.PrintSettings.PMLayoutNUp");
+// The n-up layout flag is kLayoutNUpKey (settings/PageFormat.h); booklet
+// layout is kBookletLayoutKey.
 
 enum class SpecialPagesCommand
 {

@@ -1,5 +1,7 @@
 #include "submission/JobAttributes.h"
 
+#include "settings/PageFormat.h"
+
 #include "specialpages/Cover.h"
 #include "specialpages/ExceptionPage.h"
 #include "specialpages/Insert.h"
@@ -316,9 +318,23 @@ void AddPageSetup(ipp_t* ipp, const PrintSession& session)
     const Ticket& settings = session.printSettings();
     const auto rows = settings.integer(kLayoutRowsKey),
                columns = settings.integer(kLayoutColumnsKey);
-    if (rows && columns && *rows >= 1 && *columns >= 1 && *rows * *columns > 1)
+    if (rows && columns && *rows >= 1 && *columns >= 1 && *rows * *columns > 1) {
         ippAddInteger(ipp, IPP_TAG_JOB, IPP_TAG_INTEGER, "number-up",
                       static_cast<int>(*rows * *columns));
+        // The order the pages fill a sheet, by the layout direction (1 to 4).
+        constexpr const char* kLayouts[] = {"lrtb", "rltb", "tblr", "tbrl"};
+        const auto direction = settings.integer(orvan::kLayoutDirectionKey, NumberType::SInt32);
+        if (direction && *direction >= 1 && *direction <= 4)
+            ippAddString(ipp, IPP_TAG_JOB, IPP_TAG_KEYWORD, "number-up-layout", nullptr,
+                         kLayouts[*direction - 1]);
+    }
+    if (const auto collate = settings.boolean(orvan::kCopyCollateKey))
+        ippAddString(ipp, IPP_TAG_JOB, IPP_TAG_KEYWORD, "multiple-document-handling", nullptr,
+                     *collate ? "separate-documents-collated-copies"
+                              : "separate-documents-uncollated-copies");
+    if (settings.boolean(orvan::kReverseOrderKey).value_or(false))
+        ippAddString(ipp, IPP_TAG_JOB, IPP_TAG_KEYWORD, "page-delivery", nullptr,
+                     "reverse-order-face-down");
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "watermark/FontProgram.h"
 #include "watermark/WatermarkDocument.h"
+#include "watermark/WatermarkEditorModel.h"
 #include "watermark/WatermarkPreview.h"
 #include "watermark/WatermarkStore.h"
 
@@ -120,8 +121,27 @@ void convertFontStep(benchmark::State& state)
         benchmark::DoNotOptimize(convertFont(kWatermarkFile, "Confidential"));
 }
 
+// The editor while its angle slider is dragged through 0 to 360: each step
+// takes the value into the record and redraws the preview document and image.
+void editorAngleDrag(benchmark::State& state)
+{
+    _WatermarkData record = confidential();
+    record.paperWidth = kLetter.width();
+    record.paperHeight = kLetter.height();
+    WatermarkEditorModel editor(record);
+    int angle = 0;
+    for (auto _ : state) {
+        angle = (angle + 1) % 361;
+        editor.setAngle(angle);
+        const QImage preview = DrawWatermarkPreview(editor.preview(), QSize(204, 264));
+        benchmark::DoNotOptimize(preview.constBits());
+    }
+    state.counters["redraws"] = double(editor.previewVersion());
+}
+
 } // namespace
 
+BENCHMARK(editorAngleDrag)->Unit(benchmark::kMillisecond);
 BENCHMARK(previewRedraw)->Unit(benchmark::kMillisecond);
 BENCHMARK(previewDocument)->Unit(benchmark::kMillisecond);
 BENCHMARK(previewImage)->Unit(benchmark::kMillisecond);

@@ -4,19 +4,29 @@
 #include "host/PrintDialog.h"
 #include "host/Presets.h"
 #include "host/JobSubmission.h"
+#include "host/PreviewPane.h"
+#include "host/WatermarkStampSource.h"
 #include "host/tests/HostTestSupport.h"
+#include "host/tests/PdfFixtures.h"
+#include "settings/PageFormat.h"
 #include "settings/TicketFile.h"
 #include "shell/ShellTicketItems.h"
+#include "watermark/WatermarkStore.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTimer>
+
+#include <poppler-qt6.h>
 
 using namespace orvan;
 using namespace orvan::testing;
@@ -74,6 +84,57 @@ protected:
         field<QRadioButton>(dialog, "PageRangeButton")->setChecked(true);
         field<QSpinBox>(dialog, "FromPageField")->setValue(from);
         field<QSpinBox>(dialog, "ToPageField")->setValue(to);
+    }
+
+    // Picks the item with that text in a pop-up, as a user would.
+    static void choose(PrintDialog& dialog, const char* popup, const QString& text)
+    {
+        auto* box = field<QComboBox>(dialog, popup);
+        const int index = box->findText(text);
+        ASSERT_GE(index, 0) << popup << " has no " << text.toStdString();
+        box->setCurrentIndex(index);
+        emit box->activated(index);
+    }
+
+    // Waits until the preview has shown a sheet or found the document unprintable.
+    static void waitForPreview(PrintDialog& dialog)
+    {
+        auto* pane = field<PreviewPane>(dialog, "PreviewPane");
+        QSignalSpy checked(pane, &PreviewPane::documentChecked);
+        if (pane->isShowingPages() || pane->problem() != DocumentProblem::None ||
+            checked.wait(5000))
+            QApplication::processEvents();
+    }
+
+    // The user's watermark "CONFIDENTIAL", selected for the job as the
+    // Booklet/Watermark panel writes it: in the foreground, on all pages.
+    void selectWatermark()
+    {
+        ASSERT_TRUE(QDir(m_home.path()).mkpath("shared"));
+        _WatermarkData record;
+        record.isText = 1;
+        record.textString.assignIfFits(std::string_view("CONFIDENTIAL"));
+        record.fontName.assignIfFits(std::string_view("DejaVuSans"));
+        record.fontSize = 60;
+        record.density = 40;
+        record.wellColorRed = 1;
+        record.wellColorAlpha = 1;
+        ASSERT_TRUE(saveWatermarkData(kWatermarkFile, record));
+        saveWatermarkList(kWatermarkFile, {"CONFIDENTIAL"});
+        Ticket& ticket = m_session.printSettings();
+        ticket.setItem(kPanelClient, kJobWatermarkKey, "confidential");
+        ticket.setItem(kPanelClient, kJobWatermarkOptionKey,
+                       PropertyValue::integer(3, NumberType::SInt32));
+        ticket.setItem(kPanelClient, kJobWatermarkFirstPageOnlyKey,
+                       PropertyValue::integer(0, NumberType::SInt32));
+    }
+
+    // A4 landscape, two pages a sheet, as a user picks them.
+    static void chooseA4LandscapeTwoUp(PrintDialog& dialog)
+    {
+        choose(dialog, "PaperSizePopup", "A4");
+        choose(dialog, "OrientationPopup", "Landscape");
+        choose(dialog, "PagesPerSheetPopup", "2");
     }
 
     // Clicks Print; the texts of the error boxes it showed, each closed at once.
@@ -174,7 +235,8 @@ TEST_F(PrintDialogTest, FailureToPrintShowsWhyAndKeepsTheDialogAndItsFields)
         // The ticket cannot be saved.
         {{{}, m_home.filePath("plain-file/job.plist")}, SamplePrinter(), "saved"},
         {{{m_home.filePath("report.ps")}, {}}, unreachable, "cannot reach the printer"},
-        {{{m_home.filePath("plain-file")}, {}}, unreachable, "plain-file is empty"},
+        // Not a document: refused before it is sent.
+        {{{m_home.filePath("plain-file")}, {}}, unreachable, "plain-file"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.mentions);
@@ -300,6 +362,123 @@ TEST_F(PrintDialogTest, PrintOnACupsQueueAfterSwitchingPrintersSendsTheJob)
     for (const auto& [keyword, choice] : saved.printSettings().ppdDictionary().asDictionary())
         EXPECT_EQ(status.value(keyword).compare(choice.toString(), Qt::CaseInsensitive), 0)
             << keyword.toStdString() << " = " << status.value(keyword).toStdString();
+}
+
+// The page setup goes into the tickets where the panels read it (paper
+// rectangle, N-up), and the preview lays the sheets out accordingly.
+TEST_F(PrintDialogTest, PageSetupReachesTheTicketsAndThePreview)
+{
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 5));
+    const auto dialog = makeDialog({SamplePrinter()}, {{file}});
+    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(612, 792));
+    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), false);
+    EXPECT_EQ(m_session.printSettings().string(kJobNameKey), "report.pdf");
+
+    choose(*dialog, "PaperSizePopup", "A4");
+    choose(*dialog, "OrientationPopup", "Landscape");
+    choose(*dialog, "PagesPerSheetPopup", "2");
+    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(595, 842));
+    EXPECT_EQ(m_session.pageFormat().integer(kOrientationKey, NumberType::SInt32),
+              kLandscapeOrientation);
+    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), true);
+    EXPECT_TRUE(field<QComboBox>(*dialog, "PageOrderPopup")->isEnabled());
+
+    auto* pane = field<PreviewPane>(*dialog, "PreviewPane");
+    for (int i = 0; i < 50 && pane->spreadCount() != 3; ++i)
+        QSignalSpy(pane, &PreviewPane::spreadShown).wait(200);
+    EXPECT_TRUE(pane->isShowingPages());
+    EXPECT_EQ(field<QLabel>(*dialog, "SheetPositionLabel")->text(), "1 of 3");
+}
+
+// A file that cannot be printed: the preview area says why, and Print is
+// refused with the same reason.
+TEST_F(PrintDialogTest, UnprintableFileIsExplainedInThePreviewAndRefused)
+{
+    const QString file = m_home.filePath("notes.txt");
+    QFile text(file);
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("not a document\n") > 0);
+    text.close();
+    const auto dialog = makeDialog({SamplePrinter()}, {{file}});
+    waitForPreview(*dialog);
+    auto* message = field<QLabel>(*dialog, "PreviewMessage");
+    EXPECT_TRUE(message->isVisible());
+    EXPECT_TRUE(message->text().contains("notes.txt"));
+    const QStringList boxes = clickPrint(*dialog);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes.first(), message->text());
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+// What a user checks a watermark with before using paper: the saved PDF has
+// half the pages, on landscape A4, each page carrying the watermark; the
+// user's own file stays as it was.
+TEST_F(PrintDialogTest, SaveAsPdfWritesTheSheetsWithTheirWatermark)
+{
+    ASSERT_NO_FATAL_FAILURE(selectWatermark());
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 4));
+    QFile original(file);
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray before = original.readAll();
+    PrintDialog::Options options{{file}};
+    options.pdfPath = m_home.filePath("saved.pdf");
+    const auto dialog = makeDialog({SamplePrinter()}, options);
+    choose(*dialog, "PrinterPopup", "Save as PDF");
+    chooseA4LandscapeTwoUp(*dialog);
+    EXPECT_EQ(clickPrint(*dialog), QStringList());
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+
+    const auto saved = Poppler::Document::load(options.pdfPath);
+    ASSERT_TRUE(saved);
+    ASSERT_EQ(saved->numPages(), 2);
+    for (int sheet = 0; sheet < 2; ++sheet) {
+        const QSizeF size = saved->page(sheet)->pageSizeF();
+        EXPECT_TRUE(std::abs(size.width() - 842) < 1 && std::abs(size.height() - 595) < 1) << sheet;
+        EXPECT_EQ(saved->page(sheet)->text(QRectF()).count("CONFIDENTIAL"), 2) << sheet;
+    }
+    ASSERT_TRUE(original.seek(0));
+    EXPECT_EQ(original.readAll(), before);
+}
+
+// The same settings on a CUPS queue: the page setup travels as job
+// attributes, the watermark in the document the queue receives.
+TEST_F(PrintDialogTest, PrintOnACupsQueueSendsThePageSetupAndTheWatermark)
+{
+    std::unique_ptr<CupsServer> server;
+    ASSERT_NO_FATAL_FAILURE(StartCupsWithSampleQueue(server));
+    if (!server)
+        return;
+    ASSERT_NO_FATAL_FAILURE(selectWatermark());
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 4));
+    {
+        const auto dialog =
+            makeDialog({{.displayName = "Meridian", .queueName = "Meridian"}}, {{file}});
+        chooseA4LandscapeTwoUp(*dialog);
+        EXPECT_EQ(clickPrint(*dialog), QStringList());
+        EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    }
+    const JobAttributes status = server->waitForJob(1);
+    ASSERT_EQ(status.value("job-state"), "completed") << server->errorLog().toStdString();
+    EXPECT_EQ(status.value("media-col"), "{media-size={x-dimension=20990 y-dimension=29704}}");
+    EXPECT_EQ(status.value("number-up-layout"), "lrtb");
+    EXPECT_EQ(status.value("multiple-document-handling"), "separate-documents-collated-copies");
+    EXPECT_EQ(status.value("orientation-requested"), "landscape");
+    // The queue's output drawn by Ghostscript: the watermark is the only red
+    // on the sheet, once for each page.
+    const QString sheet = m_home.filePath("sheet.png");
+    QProcess gs;
+    gs.start("gs", {"-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-sDEVICE=png16m", "-r20",
+                    "-dLastPage=1", "-sOutputFile=" + sheet, server->outputFile("Meridian")});
+    ASSERT_TRUE(gs.waitForFinished(60000));
+    const QImage image(sheet);
+    ASSERT_FALSE(image.isNull());
+    int red = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            red += qRed(image.pixel(x, y)) - qGreen(image.pixel(x, y)) > 60;
+    EXPECT_GT(red, 20);
 }
 
 } // namespace

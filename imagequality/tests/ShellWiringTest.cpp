@@ -42,7 +42,8 @@ TEST(ShellWiring, TabsNavigationSyncAndSummary)
         tabTitles << tabs->tabText(index);
     const int imageOptions = tabTitles.indexOf("Image Options") + 1; // tab numbers count from 1
     ASSERT_GT(imageOptions, 0);
-    EXPECT_EQ(tabTitles.value(imageOptions), "Advanced");
+    EXPECT_EQ(tabTitles.value(imageOptions), "Booklet/Watermark");
+    EXPECT_EQ(tabTitles.value(imageOptions + 1), "Advanced");
     auto* container = window.findChild<QStackedWidget*>("ShellContainer");
     auto* resolution = window.findChild<QComboBox*>("ResolutionPopup");
     auto* banner = window.findChild<QComboBox*>("BannerSheetPopup");
@@ -50,13 +51,16 @@ TEST(ShellWiring, TabsNavigationSyncAndSummary)
     EXPECT_EQ(resolution->currentText(), "1200 dpi");
     EXPECT_EQ(banner->currentText(), "On");
 
-    // "Next" goes from Image Options to Advanced, "Previous" back. Leaving
+    // "Next" goes from Image Options past Booklet/Watermark to Advanced,
+    // "Previous" back. Leaving
     // the Image Options panel writes it with its controls present, so both
     // invert flags are stored on and show checked when it comes back.
     ShellHandleControlHit(CurrentShellContext(), kShellTabControlID, imageOptions);
     window.findChild<QToolButton*>("NextPanelButton")->click();
-    EXPECT_EQ(_lastTabIndex(), imageOptions + 1);
+    window.findChild<QToolButton*>("NextPanelButton")->click();
+    EXPECT_EQ(_lastTabIndex(), imageOptions + 2);
     EXPECT_TRUE(container->currentWidget()->isAncestorOf(banner));
+    window.findChild<QToolButton*>("PreviousPanelButton")->click();
     window.findChild<QToolButton*>("PreviousPanelButton")->click();
     EXPECT_EQ(_lastTabIndex(), imageOptions);
     EXPECT_TRUE(container->currentWidget()->isAncestorOf(resolution));

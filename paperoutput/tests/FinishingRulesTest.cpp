@@ -2,7 +2,6 @@
 // commands and menus, the finishing summary, the output destinations, the
 // pictures and the setup dialogs' passcode and time rules.
 #include "paperoutput/FinishingRules.h"
-#include "paperoutput/JobTypeSetupRules.h"
 #include "paperoutput/OutputDestination.h"
 #include "paperoutput/PaperOutputIcons.h"
 #include "paperoutput/tests/PaperOutputTestSupport.h"
@@ -304,38 +303,6 @@ TEST(PaperOutputIcons, NamesFollowTheValues)
         EXPECT_EQ(EnableDisableJobTypeSetupButton(type), type != 1 && type != 2 && type != 8)
             << type;
     }
-}
-
-TEST(JobTypeSetupRules, PasscodesAndDelayedTimes)
-{
-    const auto random = [] { return std::uint32_t{123456}; }; // 123456 mod 9000 + 1000 = 7456
-    const struct
-    {
-        const char* passcode;
-        const char* confirmation;
-        PasscodeVerdict verdict;
-        const char* result;
-    } rows[] = {
-        {"0012", "0012", PasscodeVerdict::Accepted, "0012"},
-        {"123", "123", PasscodeVerdict::Generated, "7456"},
-        {"", "", PasscodeVerdict::Generated, "7456"},
-        {"12345", "12346", PasscodeVerdict::Mismatch, ""},
-    };
-    for (const auto& row : rows) {
-        QString result;
-        EXPECT_EQ(CheckPasscodePair(row.passcode, row.confirmation, random, &result), row.verdict)
-            << row.passcode;
-        EXPECT_EQ(result, row.result);
-    }
-    EXPECT_EQ(GeneratedPasscode(0), "1000");
-    EXPECT_EQ(GeneratedPasscode(8999), "9999");
-
-    const QDateTime now(QDate(2026, 3, 14), QTime(15, 30, 20, 500));
-    const std::int64_t today = SecondsSince1904(QDateTime(now.date(), QTime(0, 0)));
-    EXPECT_EQ(DelayedPrintSeconds(QTime(15, 30, 20), now), today + 15 * 3600 + 30 * 60 + 20);
-    EXPECT_EQ(DelayedPrintSeconds(QTime(15, 30, 19), now),
-              today + 86400 + 15 * 3600 + 30 * 60 + 19);
-    EXPECT_EQ(DateTimeFromSeconds1904(today + 60), QDateTime(now.date(), QTime(0, 1)));
 }
 
 } // namespace

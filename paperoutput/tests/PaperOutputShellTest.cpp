@@ -91,7 +91,9 @@ TEST(PaperOutputShell, FirstTabDrivesTheOkGuardAndShowsFinishing)
     EXPECT_EQ(plugin->terminate(kNoError), kNoError);
 }
 
-PrintSession Dumped(const PrintSession& in)
+// The session a headless run saved (--save-ticket); what it printed goes to
+// *printed.
+PrintSession Dumped(const PrintSession& in, QByteArray* printed)
 {
     QTemporaryDir folder;
     EXPECT_TRUE(saveTicketFile(folder.filePath("in.plist"), in));
@@ -99,14 +101,16 @@ PrintSession Dumped(const PrintSession& in)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("ORVAN_PLUGIN_PATH", ORVAN_PLUGIN_DIR);
     process.setProcessEnvironment(environment);
-    process.start(
-        ORVAN_BINARY_DIR "/bin/orvan-print",
-        {"--dump-ticket", "--ticket", folder.filePath("in.plist"), "--ppd", testing::kSamplePpd});
+    process.start(ORVAN_BINARY_DIR "/bin/orvan-print",
+                  {"--dump-ticket", "--ticket", folder.filePath("in.plist"), "--ppd",
+                   testing::kSamplePpd, "--save-ticket", folder.filePath("out.plist")});
     EXPECT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+    *printed = process.readAllStandardOutput() + process.readAllStandardError();
+    EXPECT_EQ(QFile::permissions(folder.filePath("out.plist")) & 0x0077, 0)
+        << "a saved ticket may hold a passcode: its owner's only";
     PrintSession out;
-    const auto list = readPropertyList(process.readAllStandardOutput());
-    EXPECT_TRUE(list && sessionFromPropertyList(*list, out));
+    EXPECT_TRUE(loadTicketFile(folder.filePath("out.plist"), out));
     return out;
 }
 
@@ -147,7 +151,10 @@ TEST(OrvanPrint, DumpTicketKeepsThePaperOutputItems)
           std::pair{"MediaColor", "Blue"}})
         ticket.ppdDictionary().insert(keyword, choice);
 
-    const PrintSession dumped = Dumped(in);
+    QByteArray printed;
+    const PrintSession dumped = Dumped(in, &printed);
+    EXPECT_FALSE(printed.contains("0012")) << "the passcode is never printed";
+    EXPECT_TRUE(printed.contains(kHiddenSecret.toUtf8()));
     const Ticket& out = dumped.printSettings();
     PropertyValue top = PropertyValue::dictionary();
     for (const auto& [key, item] : out.items())

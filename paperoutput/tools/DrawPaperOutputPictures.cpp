@@ -1,7 +1,9 @@
 // Draws the Paper/Output panel's pictures: the job types, two-sided printing
 // and office finishing, each a sheet (or a small stack) of paper with what
-// the setting does to it. Usage: orvan_draw_paper_output_pictures OUTDIR
+// the setting does to it; the booklet creation previews, the saved-job
+// formats and the printer-default colour. Usage: orvan_draw_paper_output_pictures OUTDIR
 #include <QDir>
+#include <QFont>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -263,6 +265,111 @@ Draw Sides(int sides, bool shortEdge)
 
 } // namespace
 
+// The booklet creation preview: a plain sheet, a sheet imposed two-up, or a
+// folded booklet (stapled on the spine for fold and staple); page outlines
+// drawn round each imposed page.
+Draw BookletPreview(bool layout, int fold, bool outlines)
+{
+    return [=](QPainter& p) {
+        if (!layout && fold == 0) {
+            Sheet(p, kPortrait);
+            return;
+        }
+        const auto pageText = [&p, outlines](const QPolygonF& page) {
+            // Text lines inside a page given as its four corners (top left,
+            // top right, bottom right, bottom left).
+            p.setPen(QPen(kLine, 1.4, Qt::SolidLine, Qt::RoundCap));
+            for (int i = 1; i < 6; ++i) {
+                const double t = 0.12 + i * 0.13;
+                const QPointF left = page[0] + (page[3] - page[0]) * t;
+                const QPointF right = page[1] + (page[2] - page[1]) * t;
+                p.drawLine(left + (right - left) * 0.18, left + (right - left) * 0.82);
+            }
+            if (outlines) {
+                p.setPen(QPen(kAccent, 1.2));
+                p.setBrush(Qt::NoBrush);
+                const QPointF c = (page[0] + page[2]) / 2;
+                QPolygonF inner;
+                for (const QPointF& corner : page)
+                    inner << c + (corner - c) * 0.84;
+                p.drawPolygon(inner);
+            }
+        };
+        QPolygonF left, right;
+        if (fold == 0) {
+            // One landscape sheet holding two pages.
+            const QRectF sheet(4.5, 14.5, 55, 37);
+            Sheet(p, sheet, false);
+            left = QPolygonF(
+                {sheet.topLeft(), QPointF(32, 14.5), QPointF(32, 51.5), sheet.bottomLeft()});
+            right = QPolygonF(
+                {QPointF(32, 14.5), sheet.topRight(), sheet.bottomRight(), QPointF(32, 51.5)});
+        } else {
+            // A booklet lying open, from above.
+            left = QPolygonF({QPointF(8, 18), QPointF(32, 13), QPointF(32, 50), QPointF(8, 54)});
+            right = QPolygonF({QPointF(32, 13), QPointF(56, 18), QPointF(56, 54), QPointF(32, 50)});
+            p.setPen(Qt::NoPen);
+            p.setBrush(QColor(0, 0, 0, 30));
+            p.drawPolygon(left.translated(1.2, 1.2));
+            p.drawPolygon(right.translated(1.2, 1.2));
+            p.setPen(QPen(kEdge, 1));
+            p.setBrush(QColor(0xf3, 0xf5, 0xf8));
+            p.drawPolygon(left);
+            p.setBrush(Qt::white);
+            p.drawPolygon(right);
+        }
+        if (layout) {
+            pageText(left);
+            pageText(right);
+        }
+        p.setPen(QPen(kAccent, 1.4, Qt::DashLine));
+        p.drawLine(QPointF(32, fold ? 11 : 12), QPointF(32, fold ? 52 : 54));
+        if (fold == 2) {
+            Staple(p, QPointF(32, 20), QPointF(32, 26));
+            Staple(p, QPointF(32, 37), QPointF(32, 43));
+        }
+    };
+}
+
+// A stored job's format: a page with the format's name on a band.
+Draw JobFormat(const char* format, QColor band)
+{
+    return [=](QPainter& p) {
+        Sheet(p, QRectF(12.5, 4.5, 39, 52));
+        const QRectF label(6, 30, 52, 18);
+        p.setPen(Qt::NoPen);
+        p.setBrush(band);
+        p.drawRoundedRect(label, 3, 3);
+        QFont font = p.font();
+        font.setBold(true);
+        font.setPixelSize(QString::fromLatin1(format).size() > 4 ? 10 : 12);
+        p.setFont(font);
+        p.setPen(Qt::white);
+        p.drawText(label, Qt::AlignCenter, QString::fromLatin1(format));
+    };
+}
+
+// The printer's default colour: a sheet with colour and grey dots.
+Draw PrinterDefaultColor()
+{
+    return [](QPainter& p) {
+        Sheet(p, kPortrait, false);
+        const struct
+        {
+            QPointF centre;
+            QColor color;
+        } dots[] = {{{27, 24}, QColor(0, 174, 239, 170)},
+                    {{37, 24}, QColor(236, 0, 140, 170)},
+                    {{32, 33}, QColor(255, 220, 0, 190)},
+                    {{32, 45}, QColor(0x70, 0x76, 0x7e, 200)}};
+        p.setPen(Qt::NoPen);
+        for (const auto& dot : dots) {
+            p.setBrush(dot.color);
+            p.drawEllipse(dot.centre, 7, 7);
+        }
+    };
+}
+
 int main(int argc, char** argv)
 {
     QGuiApplication application(argc, argv);
@@ -310,6 +417,21 @@ int main(int argc, char** argv)
         {"OfficeFinishing_Bklt_Fold_Layout", Booklet(false, true, true)},
         {"OfficeFinishing_BKlt_Fold&Stple", Booklet(true, false, true)},
         {"OfficeFinishing_Bklt_Fold&Stpl_Layout", Booklet(true, true, true)},
+        {"BookletCreation_None", BookletPreview(false, 0, false)},
+        {"BookletCreation_Booklet", BookletPreview(true, 0, false)},
+        {"BookletCreation_Booklet-Outlines", BookletPreview(true, 0, true)},
+        {"BookletCreation_Fold", BookletPreview(false, 1, false)},
+        {"BookletCreation_Booklet-Fold", BookletPreview(true, 1, false)},
+        {"BookletCreation_Booklet-Fold-Outlines", BookletPreview(true, 1, true)},
+        {"BookletCreation_Fold-Staple", BookletPreview(false, 2, false)},
+        {"BookletCreation_Booklet-Fold-Staple", BookletPreview(true, 2, false)},
+        {"BookletCreation_Booklet-Fold-Staple-Outlines", BookletPreview(true, 2, true)},
+        {"JobType_JobFormat_PDF", JobFormat("PDF", QColor(0xc0, 0x39, 0x2b))},
+        {"JobType_JobFormat_TIFF", JobFormat("TIFF", QColor(0x27, 0x7d, 0x4f))},
+        {"JobType_JobFormat_MTIFF", JobFormat("M-TIFF", QColor(0x1f, 0x6a, 0x5a))},
+        {"JobType_JobFormat_FRF", JobFormat("FRF", kAccent)},
+        {"JobType_JobFormat_FRFDRI", JobFormat("FRF-DRI", QColor(0x3b, 0x4f, 0x9a))},
+        {"OutputColor_PrnDef", PrinterDefaultColor()},
     };
     bool ok = true;
     for (const auto& [name, draw] : pictures)

@@ -271,5 +271,25 @@
         <source>Main Stacker</source>
         <translation>Main Stacker</translation>
     </message>
+    <message>
+        <source>Values restored.</source>
+        <translation>Values restored.</translation>
+    </message>
+    <message>
+        <source>Job Format:</source>
+        <translation>Stored As:</translation>
+    </message>
+    <message>
+        <source>Gutter Range Label</source>
+        <translation>(%1 to %2 points)</translation>
+    </message>
+    <message>
+        <source>Creep Range Label</source>
+        <translation>(%1 to %2 points)</translation>
+    </message>
+    <message>
+        <source>Booklet Options Title</source>
+        <translation>Booklet Options</translation>
+    </message>
 </context>
 </TS>

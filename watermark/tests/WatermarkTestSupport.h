@@ -29,9 +29,10 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_dir.isValid());
+        m_previous = qgetenv("ORVAN_SHARED_DATA_DIR");
         qputenv("ORVAN_SHARED_DATA_DIR", m_dir.path().toUtf8());
     }
-    void TearDown() override { qunsetenv("ORVAN_SHARED_DATA_DIR"); }
+    void TearDown() override { qputenv("ORVAN_SHARED_DATA_DIR", m_previous); }
 
     QString path(const QString& name) const { return m_dir.filePath(name); }
     QString filePath() const { return WatermarkFilePath(kWatermarkFile); }
@@ -48,6 +49,7 @@ protected:
     }
 
     QTemporaryDir m_dir;
+    QByteArray m_previous;
 };
 
 inline _WatermarkData textRecord(const char* text, const char* font = "ArialMT", int angle = 45)
