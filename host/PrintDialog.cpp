@@ -9,6 +9,7 @@
 #include "printerdesc/PpdFile.h"
 #include "host/PresetPopup.h"
 #include "host/Presets.h"
+#include "printerdesc/PPDAccess.h"
 #include "settings/TicketFile.h"
 #include "shell/CommandEvent.h"
 #include "shell/PDEShell.h"
@@ -225,10 +226,22 @@ void PrintDialog::writeControlsToTicket()
 
 bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
 {
-    const auto ppd = PpdPathForPrinter(printer, m_plugin.folder(), error);
+    auto ppd = PpdPathForPrinter(printer, m_plugin.folder(), error);
     if (!printer.queueName.isEmpty())
         m_fetchedPpd = TemporaryFile(ppd.value_or(QString()));
-    // A queue without a PPD still prints; the panels then show their defaults.
+    if (ppd) {
+        QString why;
+        if (const PpdFilePtr opened = OpenPPDFile(*ppd, &why)) {
+            // What the printer would not know is not carried on to it.
+            PPDDropChoicesNotOffered(opened.get(), &m_session.printSettings());
+        } else {
+            if (error)
+                *error = QStringLiteral("cannot open the PPD file %1: %2").arg(*ppd, why);
+            ppd.reset();
+        }
+    }
+    // A queue without a usable PPD still prints; the panels then show their
+    // defaults.
     m_session.setCurrentPrinter(Printer{printer.queueName, ppd.value_or(QString())});
     return ppd.has_value();
 }

@@ -50,6 +50,11 @@ std::optional<int> choosePrinter(const HostCommandLine& line, std::vector<Printe
             *error = QStringLiteral("cannot read the PPD file %1").arg(line.ppdFile);
             return std::nullopt;
         }
+        QString why = QStringLiteral("it is a folder");
+        if (QFileInfo(line.ppdFile).isDir() || !OpenPPDFile(line.ppdFile, &why)) {
+            *error = QStringLiteral("cannot open the PPD file %1: %2").arg(line.ppdFile, why);
+            return std::nullopt;
+        }
         PrinterEntry entry;
         entry.displayName = QFileInfo(line.ppdFile).completeBaseName();
         entry.isSample = true; // no queue behind it
@@ -180,6 +185,9 @@ int main(int argc, char** argv)
             std::fprintf(stderr, "orvan-print: %s; the printer's defaults are used\n", ppdWhy.toLocal8Bit().constData());
     }
 
+    // What the printer would not know is not carried on.
+    if (const auto& current = session.currentPrinter(); headless && current && !current->ppdPath.isEmpty())
+        PPDDropChoicesNotOffered(OpenPPDFile(current->ppdPath).get(), &session.printSettings());
     if (line->print)
         return RunHeadlessPrint(*plugin, session, printer, line->files, line->ticketOut);
     if (headless)

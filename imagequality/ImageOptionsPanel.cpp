@@ -163,7 +163,7 @@ Status ImageOptionsPanel::loadModel(PrintSession*)
 Status ImageOptionsPanel::syncModel(PrintSession* session, bool direction)
 {
     // Without its view the panel has no invert-image controls, so writing
-    // stores both flags as 0: the flags come from the controls' presence.
+    // keeps the flags as they were read from the ticket.
     const InvertImageControls controls = view() ? view()->controls() : InvertImageControls{};
     return model().sync(session, direction, controls);
 }

@@ -42,8 +42,10 @@ Status InvertImageSync(II_Options* options, Ticket* ticket, bool direction,
         InvertImageSetOptionsFromTicket(options, *ticket);
         return kNoError;
     }
-    options->negativeImage = controls.negativeImage;
-    options->mirrorImage = controls.mirrorImage;
+    if (controls.negativeImage)
+        options->negativeImage = true;
+    if (controls.mirrorImage)
+        options->mirrorImage = true;
     return ticket->setItem(kShellClient, kInvertImageOptionsKey,
                            InvertImageCreateTicketFromOptions(*options));
 }

@@ -47,12 +47,13 @@ void InvertImageSetOptionsFromTicket(II_Options* options, const Ticket& ticket);
 // integers 1 or 0.
 PropertyValue InvertImageCreateTicketFromOptions(const II_Options& options);
 
-// direction true: the options from the ticket. direction false: each flag is
-// set from whether its control exists, not from what the control shows (the
-// rule this panel has always written by; a headless panel therefore writes
-// both as 0 and a panel with its controls both as 1), then the dictionary
-// replaces the ticket's item (client "Q", unlocked). Returns the ticket's
-// status of the write.
+// direction true: the options from the ticket. direction false: each flag
+// whose control exists is set to true, whatever the control shows (the rule
+// this panel has always written by, kept on purpose: a panel with its
+// controls writes both as 1); a flag without its control keeps the value
+// read from the ticket, so a headless run writes back what it read. Then the
+// dictionary replaces the ticket's item (client "Q", unlocked). Returns the
+// ticket's status of the write.
 Status InvertImageSync(II_Options* options, Ticket* ticket, bool direction,
                        InvertImageControls controls);
 

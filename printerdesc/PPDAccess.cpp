@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdio>
+#include <vector>
 
 namespace orvan {
 
@@ -33,23 +34,34 @@ const PPDChoiceMap* ChoiceMapForKeyword(const QString& mainKeyword)
     return nullptr;
 }
 
-// The encoding libcups hands the PPD's strings out in. It converts the texts
-// of a file without "*LanguageEncoding" (read as Latin 1) and of the
-// encodings it knows to UTF-8; other files come through byte for byte.
-TextEncoding DeliveredEncoding(ppd_file_t* ppd)
+// libcups converts the texts of some PPDs to UTF-8 while it reads them, from
+// the character set it takes the "*LanguageEncoding" to name; other files
+// come through byte for byte. Two of its readings differ from the encoding
+// the file declares (ISOLatin5 read as Cyrillic, no entry read as Latin 1),
+// and WindowsANSI has no place in our list; all three convert every byte
+// they meet, so converting the UTF-8 back gives the file's own bytes, which
+// are then decoded with PPDGetEncoding. nullptr: the texts arrive unchanged.
+struct LibcupsReading
 {
-    if (!ppd)
-        return TextEncoding::MacRoman;
+    const char* entry;   // "*LanguageEncoding", compared as libcups does (any case)
+    const char* charset; // what libcups read the bytes as
+    bool declared;       // the same as PPDGetEncoding: its UTF-8 is the text
+};
+constexpr LibcupsReading kLibcupsReadings[] = {
+    {"", "ISO-8859-1", false},         {"ISOLatin1", "ISO-8859-1", true},
+    {"ISOLatin2", "ISO-8859-2", true}, {"ISOLatin5", "ISO-8859-5", false},
+    {"JIS83-RKSJ", "CP932", true},     {"MacStandard", "MACINTOSH", true},
+    {"WindowsANSI", "CP1252", false},
+};
+
+const LibcupsReading* ReadingOf(ppd_file_t* ppd)
+{
     const QByteArray entry = PpdLanguageEncodingEntry(ppd);
-    static constexpr std::array kConvertedByLibcups = {"ISOLatin1",  "ISOLatin2",   "ISOLatin5",
-                                                       "JIS83-RKSJ", "MacStandard", "WindowsANSI"};
-    if (entry.isEmpty())
-        return TextEncoding::UTF8;
-    for (const char* name : kConvertedByLibcups) {
-        if (entry.compare(name, Qt::CaseInsensitive) == 0)
-            return TextEncoding::UTF8;
+    for (const LibcupsReading& reading : kLibcupsReadings) {
+        if (entry.compare(reading.entry, Qt::CaseInsensitive) == 0)
+            return &reading;
     }
-    return PPDGetEncoding(ppd);
+    return nullptr;
 }
 
 QString Decode(const QByteArray& bytes, TextEncoding encoding)
@@ -178,6 +190,27 @@ std::optional<QString> PPDCopyChoiceText(ppd_file_t* ppd, const QString& mainKey
     return PPDDecodeString(ppd, *text);
 }
 
+int PPDDropChoicesNotOffered(ppd_file_t* ppd, Ticket* ticket)
+{
+    if (!ppd || !ticket)
+        return 0;
+    std::vector<QString> dropped;
+    for (const auto& [keyword, choice] : ticket->ppdDictionary().asDictionary()) {
+        QString offered = choice.toString();
+        if (offered.startsWith(QLatin1String("Custom.")))
+            offered = QStringLiteral("Custom");
+        if (!choice.isString() || !PPDCopyChoiceText(ppd, keyword, offered))
+            dropped.push_back(keyword);
+    }
+    for (const QString& keyword : dropped) {
+        const QString choice = ticket->ppdDictionary().find(keyword)->toString(QStringLiteral("?"));
+        std::fprintf(stderr, "orvan: the printer does not offer %s=%s; the choice is dropped\n",
+                     keyword.toLocal8Bit().constData(), choice.toLocal8Bit().constData());
+        ticket->ppdDictionary().remove(keyword);
+    }
+    return static_cast<int>(dropped.size());
+}
+
 int PPDPopulateMenuWithChoices(MenuModel* menu, ppd_file_t* ppd, const QString& mainKeyword,
                                std::uint32_t commandId, bool checkConstraints)
 {
@@ -186,8 +219,7 @@ int PPDPopulateMenuWithChoices(MenuModel* menu, ppd_file_t* ppd, const QString& 
     if (checkConstraints)
         PpdMarkDefaults(ppd);
     menu->clear();
-    const TextEncoding encoding = DeliveredEncoding(ppd);
-    const QByteArray keyword = Encode(mainKeyword, encoding);
+    const QByteArray keyword = PPDEncodeString(ppd, mainKeyword);
     const auto choices = PpdOptionChoices(ppd, keyword);
     if (!choices) {
         WriteDiagnostic("Expected PPD option not found: ", mainKeyword);
@@ -198,7 +230,7 @@ int PPDPopulateMenuWithChoices(MenuModel* menu, ppd_file_t* ppd, const QString& 
         // afterwards the marks reflect the last choice tried.
         if (checkConstraints && PpdMarkOption(ppd, keyword, choice.keyword) > 0)
             continue;
-        const QString choiceKeyword = Decode(choice.keyword, encoding);
+        const QString choiceKeyword = PPDDecodeString(ppd, choice.keyword);
         // A value of -1 counts as unknown, even where a map gives it on
         // purpose ("Lighten1").
         const std::int32_t value = PPDTicketValueForChoice(mainKeyword, choiceKeyword);
@@ -206,7 +238,7 @@ int PPDPopulateMenuWithChoices(MenuModel* menu, ppd_file_t* ppd, const QString& 
             WriteDiagnostic("Skipped unrecognized choice in PPD: ", choiceKeyword);
             continue;
         }
-        menu->append(MenuItem{Decode(choice.text, encoding), commandId, value, false});
+        menu->append(MenuItem{PPDDecodeString(ppd, choice.text), commandId, value, false});
     }
     return menu->count();
 }
@@ -231,12 +263,29 @@ TextEncoding PPDGetEncoding(ppd_file_t* ppd)
 
 QString PPDDecodeString(ppd_file_t* ppd, const QByteArray& bytes)
 {
-    return Decode(bytes, DeliveredEncoding(ppd));
+    if (!ppd)
+        return Decode(bytes, TextEncoding::MacRoman);
+    const LibcupsReading* reading = ReadingOf(ppd);
+    if (!reading)
+        return Decode(bytes, PPDGetEncoding(ppd));
+    if (reading->declared)
+        return Decode(bytes, TextEncoding::UTF8);
+    const auto fileBytes = convertCharset(bytes, "UTF-8", reading->charset);
+    return Decode(fileBytes.value_or(bytes), PPDGetEncoding(ppd));
 }
 
 QByteArray PPDEncodeString(ppd_file_t* ppd, const QString& text)
 {
-    return Encode(text, DeliveredEncoding(ppd));
+    if (!ppd)
+        return Encode(text, TextEncoding::MacRoman);
+    const LibcupsReading* reading = ReadingOf(ppd);
+    if (!reading)
+        return Encode(text, PPDGetEncoding(ppd));
+    if (reading->declared)
+        return text.toUtf8();
+    const auto fileBytes =
+        convertCharset(Encode(text, PPDGetEncoding(ppd)), reading->charset, "UTF-8");
+    return fileBytes.value_or(text.toUtf8());
 }
 
 bool PPDIsOrvanPrinter(ppd_file_t* ppd)
@@ -260,7 +309,8 @@ void GetMediaLimits(double* minimumWidth, double* minimumHeight, double* maximum
         *maximumHeight = limits.maximumHeight;
 }
 
-void PPDSetCurrentChoiceForTicketValue(Ticket* ticket, const QString& mainKeyword, std::int32_t value)
+void PPDSetCurrentChoiceForTicketValue(Ticket* ticket, const QString& mainKeyword,
+                                       std::int32_t value)
 {
     if (const char* choice = PPDChoiceForTicketValue(mainKeyword, value))
         PPDSetCurrentChoice(ticket, mainKeyword, QString::fromLatin1(choice));

@@ -46,12 +46,21 @@ const char* PPDChoiceForTicketValue(const QString& mainKeyword, std::int32_t val
 // Stores the choice that carries the value (PPDChoiceForTicketValue) under the
 // main keyword in the ticket's PPD dictionary; a value without a choice
 // stores nothing and leaves the ticket's choice as it was.
-void PPDSetCurrentChoiceForTicketValue(Ticket* ticket, const QString& mainKeyword, std::int32_t value);
+void PPDSetCurrentChoiceForTicketValue(Ticket* ticket, const QString& mainKeyword,
+                                       std::int32_t value);
 // The ticket's current choice for the keyword, or when it has none the PPD's
 // default, translated by PPDTicketValueForChoice (possibly -1) into *value.
 // With neither, *value is left untouched and the result is false.
 bool PPDGetTicketValueForChoiceOrDefault(ppd_file_t* ppd, const Ticket* ticket,
                                          const QString& mainKeyword, std::int32_t* value);
+// Removes from the ticket's PPD dictionary every entry the PPD does not offer
+// (no such option, or no such choice of it; "Custom.<size>" counts as the
+// option's "Custom" choice), so that nothing the printer would not know is
+// sent to it. Says so on stderr, one line per entry:
+// "orvan: the printer does not offer Resolution=9999x9999dpi; the choice is dropped".
+// Returns the number removed; 0 without a PPD or ticket.
+int PPDDropChoicesNotOffered(ppd_file_t* ppd, Ticket* ticket);
+
 // The human-readable text of the choice as the PPD gives it; nullopt when
 // anything is missing.
 std::optional<QString> PPDCopyChoiceText(ppd_file_t* ppd, const QString& mainKeyword,
@@ -73,9 +82,11 @@ int PPDPopulateMenuWithChoices(MenuModel* menu, ppd_file_t* ppd, const QString& 
 // ISOLatin5, JIS83-RKSJ (Shift JIS), UTF-8/UTF8; anything else, no entry or
 // no PPD: Mac Roman.
 TextEncoding PPDGetEncoding(ppd_file_t* ppd);
-// A string of the PPD (keyword or text) as it arrives from libcups, decoded.
-// libcups already converts the texts of the encodings it knows to UTF-8; the
-// rest are decoded with PPDGetEncoding, falling back to Mac Roman.
+// A string of the PPD (keyword or text) as it arrives from libcups, decoded
+// from the file's own bytes with PPDGetEncoding (Mac Roman for bytes not
+// valid in it). Where libcups has already converted a text to UTF-8 from
+// another reading of the file (no "*LanguageEncoding", ISOLatin5,
+// WindowsANSI), that conversion is undone first.
 QString PPDDecodeString(ppd_file_t* ppd, const QByteArray& bytes);
 // The reverse, for looking keywords up in the PPD.
 QByteArray PPDEncodeString(ppd_file_t* ppd, const QString& text);

@@ -26,8 +26,9 @@ PpdFilePtr OpenPPDFile(const QString& path, QString* error)
     if (!ppd && error) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        *error =
-            QStringLiteral("line %1: %2").arg(line).arg(QString::fromUtf8(ppdErrorString(status)));
+        // libcups counts no line for a file it could not start reading.
+        const QString reason = QString::fromUtf8(ppdErrorString(status));
+        *error = line > 0 ? QStringLiteral("line %1: %2").arg(line).arg(reason) : reason;
     }
     return ppd;
 }

@@ -3,10 +3,10 @@
 #include "settings/PropertyList.h"
 #include "settings/Status.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <cstdio>
@@ -24,27 +24,27 @@ bool isWritableFolder(const QString& path)
 }
 
 // The content of a per-user file as a dictionary; nullopt when it cannot be
-// read or is not one.
-std::optional<PropertyValue> readUserDictionary(const QString& path)
+// read or is not one, with the reason in *why.
+std::optional<PropertyValue> readUserDictionary(const QString& path, QString* why = nullptr)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    std::optional<PropertyValue> content = ReadPropertyListFile(path, why);
+    if (content && !content->isDictionary()) {
+        if (why)
+            *why = QStringLiteral("not a dictionary");
         return std::nullopt;
-    std::optional<PropertyValue> content = readPropertyList(file.readAll());
-    if (!content || !content->isDictionary())
-        return std::nullopt;
+    }
     return content;
 }
 
-// Renames a present file that does not read as a dictionary to
-// "<path>.unreadable"; false when that fails.
+// Sets a present file that does not read as a dictionary aside (see
+// SetAsideUnreadableFile); false when it is still in the way.
 bool setAsideUnreadable(const QString& path)
 {
-    if (!QFileInfo::exists(path) || readUserDictionary(path))
+    QString why;
+    if (!QFileInfo::exists(path) || readUserDictionary(path, &why))
         return true;
-    const QString aside = path + QStringLiteral(".unreadable");
-    QFile::remove(aside);
-    return QFile::rename(path, aside);
+    SetAsideUnreadableFile(path, why);
+    return !QFileInfo::exists(path);
 }
 
 } // namespace
@@ -82,19 +82,53 @@ bool WritePropertyListFile(const QString& path, const PropertyValue& value, int*
             *errorText = why;
         return false;
     }
-    QSaveFile file(path);
-    // The permissions go to the temporary file, so the file is never readable by others.
-    if (file.open(QIODevice::WriteOnly) &&
-        (privacy == FilePrivacy::Default ||
-         file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)) &&
-        file.write(*xml) == xml->size() && file.commit())
+    const FileError error = ReplaceFile(QFile::encodeName(path).toStdString(),
+                                        std::string_view(xml->constData(), xml->size()), privacy);
+    if (error.empty())
         return true;
     if (errorCode)
-        *errorCode = file.error() == QFileDevice::NoError ? QFileDevice::WriteError : file.error();
+        *errorCode = QFileDevice::WriteError;
     if (errorText)
-        *errorText = file.errorString();
-    file.cancelWriting();
+        *errorText = QString::fromLocal8Bit(error);
     return false;
+}
+
+std::optional<PropertyValue> ReadPropertyListFile(const QString& path, QString* error)
+{
+    std::vector<std::uint8_t> bytes;
+    const FileError why =
+        ReadWholeFile(QFile::encodeName(path).toStdString(), kMaxPropertyListFileSize, bytes);
+    if (!why.empty()) {
+        if (error)
+            *error = QString::fromLocal8Bit(why);
+        return std::nullopt;
+    }
+    PropertyListError parseError;
+    auto value =
+        readPropertyList(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                                 qsizetype(bytes.size())),
+                         &parseError);
+    if (!value && error)
+        *error = parseError.toString();
+    return value;
+}
+
+void SetAsideUnreadableFile(const QString& path, const QString& why)
+{
+    if (!QFileInfo(path).isFile())
+        return;
+    const QString dated = path + QStringLiteral(".unreadable-") +
+                          QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString aside = dated;
+    for (int n = 2; QFileInfo::exists(aside) && n < 100; ++n)
+        aside = dated + QLatin1Char('-') + QString::number(n);
+    if (QFile::rename(path, aside))
+        std::fprintf(stderr, "orvan: %s could not be read (%s); it was set aside as %s\n",
+                     QFile::encodeName(path).constData(), why.toLocal8Bit().constData(),
+                     QFile::encodeName(aside).constData());
+    else
+        std::fprintf(stderr, "orvan: %s could not be read (%s) nor set aside\n",
+                     QFile::encodeName(path).constData(), why.toLocal8Bit().constData());
 }
 
 std::optional<PropertyValue> CopyUserPreferences(const QString& fileName)
@@ -111,10 +145,11 @@ bool WriteUserPreferences(const QString& fileName, const PropertyValue& value)
     const QString folder = UserPreferencesFolder();
     const QString path = folder + QLatin1Char('/') + fileName;
     int code = QFileDevice::OpenError;
-    if (!folder.isEmpty() && QDir().mkpath(folder)) {
+    if (!folder.isEmpty() &&
+        MakeFolder(QFile::encodeName(folder).toStdString(), FilePrivacy::OwnerOnly).empty()) {
         if (!setAsideUnreadable(path))
             code = QFileDevice::RenameError;
-        else if (WritePropertyListFile(path, value, &code))
+        else if (WritePropertyListFile(path, value, &code, nullptr, FilePrivacy::OwnerOnly))
             return true;
     }
     std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n", code);
@@ -135,16 +170,15 @@ QString CopyPreferenceFileURL(const QString& fileName)
 std::optional<PropertyValue> CopyXMLData(const QString& fileName)
 {
     const QString path = CopyPreferenceFileURL(fileName);
-    if (path.isEmpty())
+    if (path.isEmpty() || !QFileInfo::exists(path))
         return std::nullopt;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    PropertyListError error;
-    std::optional<PropertyValue> content = readPropertyList(file.readAll(), &error);
-    if (!content)
+    QString why;
+    std::optional<PropertyValue> content = ReadPropertyListFile(path, &why);
+    if (!content) {
         std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n",
-                     error.toString().toUtf8().constData());
+                     why.toUtf8().constData());
+        SetAsideUnreadableFile(path, why);
+    }
     return content;
 }
 
@@ -153,7 +187,7 @@ bool WriteXMLData(const QString& fileName, const PropertyValue& value)
     const QString path = CopyPreferenceFileURL(fileName);
     int code = QFileDevice::OpenError;
     QString why;
-    if (!path.isEmpty() && WritePropertyListFile(path, value, &code, &why))
+    if (!path.isEmpty() && WritePropertyListFile(path, value, &code, &why, FilePrivacy::Default))
         return true;
     std::fprintf(stderr, "WriteXMLData(%s) failed (%d) %s\n", fileName.toUtf8().constData(), code,
                  why.toUtf8().constData());

@@ -89,6 +89,17 @@ const char* numberTypeName(NumberType type)
     return "?";
 }
 
+std::optional<NumberType> numberTypeFromName(QStringView name)
+{
+    for (int code = static_cast<int>(NumberType::SInt8);
+         code <= static_cast<int>(NumberType::CFIndex); ++code) {
+        const auto type = static_cast<NumberType>(code);
+        if (name == QLatin1String(numberTypeName(type)))
+            return type;
+    }
+    return std::nullopt;
+}
+
 PropertyValue::PropertyValue(QString string) : m_value(std::move(string)) {}
 PropertyValue::PropertyValue(const char* utf8) : m_value(QString::fromUtf8(utf8)) {}
 PropertyValue::PropertyValue(PropertyDictionary dictionary) : m_value(std::move(dictionary)) {}

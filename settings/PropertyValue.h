@@ -19,7 +19,8 @@ namespace orvan {
 // written as SInt32 reads back as SInt32; conversions report whether they are
 // exact. "CFIndex" is the ticket integer: 32-bit signed, the type every
 // integer of this system is written and read with unless stated otherwise.
-enum class NumberType : std::int8_t {
+enum class NumberType : std::int8_t
+{
     SInt8 = 1,
     SInt16 = 2,
     SInt32 = 3,
@@ -38,6 +39,8 @@ enum class NumberType : std::int8_t {
 
 bool isFloatingNumberType(NumberType type);
 const char* numberTypeName(NumberType type);
+// The type whose numberTypeName is name; nullopt for any other text.
+std::optional<NumberType> numberTypeFromName(QStringView name);
 
 class PropertyValue;
 using PropertyDictionary = std::map<QString, PropertyValue>;
@@ -51,7 +54,18 @@ using PropertyArray = std::vector<PropertyValue>;
 class PropertyValue
 {
 public:
-    enum class Kind : std::uint8_t { Null, Dictionary, Array, String, Integer, Real, Boolean, Data, Date };
+    enum class Kind : std::uint8_t
+    {
+        Null,
+        Dictionary,
+        Array,
+        String,
+        Integer,
+        Real,
+        Boolean,
+        Data,
+        Date
+    };
 
     PropertyValue() = default;
     PropertyValue(QString string); // NOLINT: implicit, strings are the common case
@@ -118,16 +132,18 @@ public:
     QString debugString() const;
 
 private:
-    struct Integer {
+    struct Integer
+    {
         std::int64_t value;
         NumberType type;
     };
-    struct Real {
+    struct Real
+    {
         double value;
         NumberType type;
     };
-    using Storage = std::variant<std::monostate, PropertyDictionary, PropertyArray, QString, Integer,
-                                 Real, bool, QByteArray, QDateTime>;
+    using Storage = std::variant<std::monostate, PropertyDictionary, PropertyArray, QString,
+                                 Integer, Real, bool, QByteArray, QDateTime>;
     explicit PropertyValue(Storage value) : m_value(std::move(value)) {}
 
     Storage m_value;

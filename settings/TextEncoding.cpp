@@ -31,7 +31,8 @@ const char* iconvName(TextEncoding encoding)
     return "UTF-8";
 }
 
-struct IconvCloser {
+struct IconvCloser
+{
     void operator()(void* cd) const { iconv_close(static_cast<iconv_t>(cd)); }
 };
 using IconvHandle = std::unique_ptr<void, IconvCloser>;
@@ -79,6 +80,11 @@ std::optional<QString> decodeText(QByteArrayView bytes, TextEncoding encoding)
     if (!utf8)
         return std::nullopt;
     return QString::fromUtf8(*utf8);
+}
+
+std::optional<QByteArray> convertCharset(QByteArrayView bytes, const char* from, const char* to)
+{
+    return convert(to, from, bytes);
 }
 
 std::optional<QByteArray> encodeText(const QString& text, TextEncoding encoding)

@@ -10,7 +10,8 @@
 
 namespace orvan {
 
-enum class TextEncoding : std::uint32_t {
+enum class TextEncoding : std::uint32_t
+{
     MacRoman = 0,
     ISOLatin1 = 0x0201,
     ISOLatin2 = 0x0202,
@@ -23,5 +24,9 @@ enum class TextEncoding : std::uint32_t {
 std::optional<QString> decodeText(QByteArrayView bytes, TextEncoding encoding);
 // Encodes text; nullopt when a character has no form in the encoding.
 std::optional<QByteArray> encodeText(const QString& text, TextEncoding encoding);
+// Converts bytes between two character sets named as iconv names them
+// ("ISO-8859-5", "CP1252"); nullopt on input that is not valid in `from` or
+// has no form in `to`.
+std::optional<QByteArray> convertCharset(QByteArrayView bytes, const char* from, const char* to);
 
 } // namespace orvan

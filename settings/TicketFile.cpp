@@ -3,8 +3,6 @@
 #include "settings/Preferences.h"
 #include "settings/PropertyList.h"
 
-#include <QFile>
-
 namespace orvan {
 
 namespace {
@@ -18,14 +16,128 @@ const QString kValueKey = QStringLiteral("Value");
 const QString kClientKey = QStringLiteral("Client");
 const QString kLockedKey = QStringLiteral("Locked");
 const QString kNumberTypeKey = QStringLiteral("NumberType");
+const QString kNumberTypesKey = QStringLiteral("NumberTypes");
 
-const QString kTicketKeys[] = {kPrintSettingsTicketKey, kPageFormatTicketKey, kPrinterInfoTicketKey};
+const QString kTicketKeys[] = {kPrintSettingsTicketKey, kPageFormatTicketKey,
+                               kPrinterInfoTicketKey};
 
 bool fail(QString* error, const QString& why)
 {
     if (error)
         *error = why;
     return false;
+}
+
+// The type tree of a value (see the header); Null when it holds no number.
+PropertyValue numberTypeTree(const PropertyValue& value)
+{
+    if (const auto type = value.numberType())
+        return PropertyValue(numberTypeName(*type));
+    if (value.isDictionary()) {
+        PropertyValue tree;
+        for (const auto& [key, child] : value.asDictionary())
+            if (PropertyValue sub = numberTypeTree(child); !sub.isNull())
+                tree.insert(key, std::move(sub));
+        return tree;
+    }
+    if (value.isArray()) {
+        PropertyValue tree = PropertyValue::array();
+        bool holdsNumber = false;
+        for (const auto& child : value.asArray()) {
+            PropertyValue sub = numberTypeTree(child);
+            holdsNumber = holdsNumber || !sub.isNull();
+            tree.append(sub.isNull() ? PropertyValue::dictionary() : std::move(sub));
+        }
+        return holdsNumber ? tree : PropertyValue();
+    }
+    return {};
+}
+
+// The number with the given type, when it takes that type exactly.
+std::optional<PropertyValue> withNumberType(const PropertyValue& number, NumberType type)
+{
+    if (isFloatingNumberType(type)) {
+        const auto real = number.realAs(type);
+        return real ? std::optional(PropertyValue::real(*real, type)) : std::nullopt;
+    }
+    const auto whole = number.integerAs(type);
+    return whole ? std::optional(PropertyValue::integer(*whole, type)) : std::nullopt;
+}
+
+bool applyNumberType(PropertyValue& value, NumberType type, QString* error)
+{
+    auto typed = value.isNumber() ? withNumberType(value, type) : std::nullopt;
+    if (!typed)
+        return fail(error,
+                    QStringLiteral("%1 cannot be of type %2")
+                        .arg(value.debugString().left(40), QLatin1String(numberTypeName(type))));
+    value = std::move(*typed);
+    return true;
+}
+
+// Gives the numbers in value the types that tree names.
+bool applyNumberTypeTree(PropertyValue& value, const PropertyValue& tree, QString* error)
+{
+    switch (tree.kind()) {
+    case PropertyValue::Kind::String: {
+        const auto type = numberTypeFromName(tree.toString());
+        if (!type)
+            return fail(error,
+                        QStringLiteral("unknown number type \"%1\"").arg(tree.toString().left(40)));
+        return applyNumberType(value, *type, error);
+    }
+    case PropertyValue::Kind::Dictionary:
+        if (tree.size() == 0)
+            return true;
+        if (!value.isDictionary())
+            return fail(
+                error,
+                QStringLiteral("the number types name entries of a value that is no dictionary"));
+        for (const auto& [key, sub] : tree.asDictionary()) {
+            PropertyValue* child = value.find(key);
+            if (!child)
+                return fail(
+                    error,
+                    QStringLiteral("the number types name \"%1\", which the value lacks").arg(key));
+            if (!applyNumberTypeTree(*child, sub, error))
+                return false;
+        }
+        return true;
+    case PropertyValue::Kind::Array:
+        if (!value.isArray() || value.size() != tree.size())
+            return fail(error,
+                        QStringLiteral("the number types do not match the array they describe"));
+        for (std::size_t i = 0; i < tree.size(); ++i)
+            if (!applyNumberTypeTree(value.asArray()[i], tree.asArray()[i], error))
+                return false;
+        return true;
+    case PropertyValue::Kind::Null:
+    case PropertyValue::Kind::Integer:
+    case PropertyValue::Kind::Real:
+    case PropertyValue::Kind::Boolean:
+    case PropertyValue::Kind::Data:
+    case PropertyValue::Kind::Date:
+        break;
+    }
+    return fail(error, QStringLiteral("number types must be names, dictionaries or arrays"));
+}
+
+// The stored value of an item entry, with the number types the entry records.
+bool readItemValue(const PropertyValue& entry, PropertyValue& stored, QString* error)
+{
+    if (const PropertyValue* code = entry.find(kNumberTypeKey); code && stored.isNumber()) {
+        const auto number = code->toInteger().value_or(0);
+        if (number < static_cast<int>(NumberType::SInt8) ||
+            number > static_cast<int>(NumberType::CFIndex))
+            return fail(
+                error,
+                QStringLiteral("unknown number type code %1").arg(code->debugString().left(40)));
+        if (!applyNumberType(stored, static_cast<NumberType>(number), error))
+            return false;
+    }
+    if (const PropertyValue* tree = entry.find(kNumberTypesKey))
+        return applyNumberTypeTree(stored, *tree, error);
+    return true;
 }
 
 } // namespace
@@ -40,6 +152,8 @@ PropertyValue ticketToPropertyList(const Ticket& ticket)
         entry.insert(kLockedKey, PropertyValue::boolean(item.locked));
         if (const auto type = item.value.numberType())
             entry.insert(kNumberTypeKey, PropertyValue::integer(static_cast<int>(*type)));
+        else if (PropertyValue tree = numberTypeTree(item.value); !tree.isNull())
+            entry.insert(kNumberTypesKey, std::move(tree));
         items.insert(key, std::move(entry));
     }
     PropertyValue result = PropertyValue::dictionary();
@@ -73,14 +187,10 @@ std::optional<Ticket> ticketFromPropertyList(const PropertyValue& value, QString
                 return std::nullopt;
             }
             PropertyValue stored = *itemValue;
-            if (const PropertyValue* type = entry.find(kNumberTypeKey); type && stored.isNumber()) {
-                const auto code = type->toInteger().value_or(0);
-                if (code >= 1 && code <= 14) {
-                    const auto numberType = static_cast<NumberType>(code);
-                    stored = isFloatingNumberType(numberType)
-                                 ? PropertyValue::real(*stored.toReal(), numberType)
-                                 : PropertyValue::integer(stored.toInteger().value_or(0), numberType);
-                }
+            QString why;
+            if (!readItemValue(entry, stored, &why)) {
+                fail(error, QStringLiteral("the item \"%1\": %2").arg(key, why));
+                return std::nullopt;
             }
             const PropertyValue* client = entry.find(kClientKey);
             const PropertyValue* locked = entry.find(kLockedKey);
@@ -142,7 +252,8 @@ bool sessionFromPropertyList(const PropertyValue& value, PrintSession& session, 
     if (const PropertyValue* p = value.find(kPrinterKey); p && p->isDictionary()) {
         const PropertyValue* queue = p->find(QStringLiteral("Queue"));
         const PropertyValue* ppd = p->find(QStringLiteral("PPD"));
-        session.setCurrentPrinter(Printer{queue ? queue->toString() : QString(), ppd ? ppd->toString() : QString()});
+        session.setCurrentPrinter(
+            Printer{queue ? queue->toString() : QString(), ppd ? ppd->toString() : QString()});
     }
     return true;
 }
@@ -160,14 +271,10 @@ bool saveTicketFile(const QString& path, const PrintSession& session, QString* e
 
 bool loadTicketFile(const QString& path, PrintSession& session, QString* error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(error, QStringLiteral("cannot read %1: %2").arg(path, file.errorString()));
-    PropertyListError parseError;
-    const auto value = readPropertyList(file.readAll(), &parseError);
-    if (!value)
-        return fail(error, QStringLiteral("%1: %2").arg(path, parseError.toString()));
     QString why;
+    const auto value = ReadPropertyListFile(path, &why);
+    if (!value)
+        return fail(error, QStringLiteral("cannot read %1: %2").arg(path, why));
     if (!sessionFromPropertyList(*value, session, &why))
         return fail(error, QStringLiteral("%1: %2").arg(path, why));
     return true;

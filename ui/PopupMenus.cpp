@@ -1,5 +1,6 @@
 #include "ui/PopupMenus.h"
 
+#include "printerdesc/PPDAccess.h"
 #include "settings/SettingMapAccess.h"
 
 #include <QAction>
@@ -144,6 +145,17 @@ std::uint16_t PopulatePopupButtonFromMapAndHistory(const Bundle* bundle, QComboB
                                            firstHistoryPosition, historyCommand, commandOverride);
     FillPopupButton(popup, model, maximum);
     return maximum;
+}
+
+int PPDPopulatePopupWithChoices(QComboBox* popup, ppd_file_t* ppd, const QString& mainKeyword,
+                                bool checkConstraints)
+{
+    if (!popup || !ppd || mainKeyword.isEmpty())
+        return 0;
+    MenuModel choices;
+    const int count = PPDPopulateMenuWithChoices(&choices, ppd, mainKeyword, 0, checkConstraints);
+    FillPopupButton(popup, choices, count);
+    return count;
 }
 
 bool SetPopupButtonToTicketValue(QComboBox* popup, std::int32_t value)

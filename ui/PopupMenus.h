@@ -15,6 +15,9 @@
 
 #include <cstdint>
 
+struct ppd_file_s;
+typedef struct ppd_file_s ppd_file_t;
+
 class QAction;
 class QComboBox;
 class QMenu;
@@ -86,6 +89,14 @@ std::uint16_t PopulatePopupButtonFromMapAndHistory(const Bundle* bundle, QComboB
                                                    int firstHistoryPosition,
                                                    std::uint32_t historyCommand,
                                                    std::uint32_t commandOverride);
+
+// --- Filling from the printer's PPD --------------------------------------------
+
+// The pop-up counterpart of PPDPopulateMenuWithChoices: the pop-up's items
+// become the option's choices (command 0) and its maximum their count, which
+// it returns. 0, with the pop-up untouched, when any argument is missing.
+int PPDPopulatePopupWithChoices(QComboBox* popup, ppd_file_t* ppd, const QString& mainKeyword,
+                                bool checkConstraints);
 
 // --- Selection by ticket value -------------------------------------------------
 

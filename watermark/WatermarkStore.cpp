@@ -115,23 +115,14 @@ WatermarkFileContent readContent(const QString& file)
     return content;
 }
 
-// Before a new dictionary replaces a file that exists but can't be read, a
-// dated copy of it is kept beside it. False when that copy can't be made.
+// Before a new dictionary replaces a file that exists but can't be read, it
+// is set aside beside itself. False when it is still in the way.
 bool setAsideUnreadable(const WatermarkFileContent& content)
 {
     if (!content.exists || content.dictionary)
         return true;
-    const QString stamp =
-        QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss"));
-    QString aside = content.path + QStringLiteral(".unreadable-") + stamp;
-    for (int n = 2; QFileInfo::exists(aside); ++n)
-        aside = content.path + QStringLiteral(".unreadable-") + stamp + QLatin1Char('-') +
-                QString::number(n);
-    if (QFile::copy(content.path, aside))
-        return true;
-    std::fprintf(stderr, "Watermark file %s unreadable and could not be kept as %s; not replaced\n",
-                 qPrintable(content.path), qPrintable(aside));
-    return false;
+    SetAsideUnreadableFile(content.path, QStringLiteral("not a watermark dictionary"));
+    return !QFileInfo::exists(content.path);
 }
 
 // The dictionary to change and write back: the file's, or an empty one when
@@ -146,7 +137,7 @@ std::optional<PropertyValue> dictionaryForUpdate(const WatermarkFileContent& con
     if (content.dictionary)
         return content.dictionary;
     if (!setAsideUnreadable(content)) {
-        *errorCode = QFileDevice::CopyError;
+        *errorCode = QFileDevice::RenameError;
         return std::nullopt;
     }
     return PropertyValue::dictionary();

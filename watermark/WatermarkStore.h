@@ -7,9 +7,9 @@
 // Every operation reads the whole file, changes its part and writes it back,
 // replacing the file atomically. A file that exists but cannot be read (not
 // a property list, not a dictionary, too large) reads as no dictionary; before
-// an operation writes a new file over it, the unreadable one is copied aside
-// beside itself as "<name>.unreadable-<yyyyMMdd-hhmmss>", so nothing the user
-// had is lost.
+// an operation writes a new file over it, the unreadable one is set aside
+// beside itself as "<name>.unreadable-<yyyyMMdd-HHmmss>" (SetAsideUnreadableFile),
+// so nothing the user had is lost.
 #pragma once
 
 #include "watermark/WatermarkData.h"

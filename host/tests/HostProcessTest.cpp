@@ -11,6 +11,7 @@
 #include <QImage>
 
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace orvan;
@@ -150,6 +151,10 @@ TEST_F(OrvanPrintProcess, SavedTicketKeepsTheItemsItWasGivenWithClientsAndLocks)
                      PropertyValue::boolean(true), true);
     settings.setItem(kPrintingManagerClient, kCopiesKey, PropertyValue::integer(4));
     settings.setItem("com.example.editor", "com.example.editor.Title", "Report \u00E9t\u00E9");
+    PropertyValue layout = PropertyValue::dictionary();
+    layout.insert("Columns", PropertyValue::integer(2, NumberType::SInt32));
+    layout.insert("Scale", PropertyValue::real(0.3, NumberType::Float32));
+    settings.setItem("com.example.editor", "com.example.editor.Layout", layout);
     given.pageFormat().setItem("com.example.editor", "com.apple.print.PageFormat.PMOrientation",
                                PropertyValue::integer(2), true);
     // The shell rewrites its own items, whatever the ticket said before.
@@ -166,8 +171,26 @@ TEST_F(OrvanPrintProcess, SavedTicketKeepsTheItemsItWasGivenWithClientsAndLocks)
         EXPECT_TRUE(kept && *kept == item) << key.toStdString();
     }
     EXPECT_EQ(saved.pageFormat(), given.pageFormat());
+    // Nested numbers keep their types, and the dump names them.
+    const PropertyValue* savedLayout = saved.printSettings().value("com.example.editor.Layout");
+    ASSERT_TRUE(savedLayout);
+    EXPECT_EQ(savedLayout->find("Columns")->numberType(), NumberType::SInt32);
+    EXPECT_EQ(savedLayout->find("Scale")->numberType(), NumberType::Float32);
+    const RunResult dump = run({"--dump-ticket", "--ticket", path("out.plist")});
+    const auto printed = readPropertyList(dump.out);
+    ASSERT_TRUE(printed) << dump.why();
+    const PropertyValue* type = &*printed;
+    for (const QString key : {kPrintSettingsTicketKey, QStringLiteral("Items"),
+                              QStringLiteral("com.example.editor.Layout"),
+                              QStringLiteral("NumberTypes"), QStringLiteral("Columns")})
+        type = type ? type->find(key) : nullptr;
+    EXPECT_EQ(type ? type->toString() : QString(), "SInt32") << dump.why();
     // What was saved is what was printed.
     EXPECT_EQ(dumped.printSettings(), saved.printSettings());
+    // Saving to a device writes through it instead of replacing it.
+    EXPECT_EQ(run({"--dump-ticket", "--save-ticket", "/dev/null"}).exitCode, 0);
+    struct stat device = {};
+    EXPECT_TRUE(::stat("/dev/null", &device) == 0 && S_ISCHR(device.st_mode));
 }
 
 TEST_F(OrvanPrintProcess, UsageErrorsGiveOneLineAndStatusTwo)
@@ -176,6 +199,15 @@ TEST_F(OrvanPrintProcess, UsageErrorsGiveOneLineAndStatusTwo)
     ASSERT_TRUE(garbage.open(QIODevice::WriteOnly) &&
                 garbage.write("<plist><dict><key>unterminated"));
     garbage.close();
+    // PPDs no printer could have: noise, nothing, UTF-16 text, a folder.
+    for (const auto& [name, bytes] :
+         {std::pair{"noise.ppd", QByteArray("\x01\x02 not a PPD")},
+          std::pair{"empty.ppd", QByteArray()},
+          std::pair{"utf16.ppd", QByteArray("\xff\xfe*\0P\0P\0D\0-\0")}}) {
+        QFile ppd(path(name));
+        ASSERT_TRUE(ppd.open(QIODevice::WriteOnly));
+        ppd.write(bytes);
+    }
     const struct
     {
         QStringList arguments;
@@ -188,6 +220,11 @@ TEST_F(OrvanPrintProcess, UsageErrorsGiveOneLineAndStatusTwo)
         {{"--dump-ticket", "--ticket", path("none.plist")}, "none.plist"},
         {{"--dump-ticket", "--ticket", garbage.fileName()}, "garbage.plist"},
         {{"--dump-ticket", "--ppd", path("none.ppd")}, "none.ppd"},
+        {{"--dump-ticket", "--ppd", path("noise.ppd")}, "cannot open the PPD file"},
+        {{"--dump-ticket", "--ppd", path("empty.ppd")}, "empty.ppd: "},
+        {{"--dump-ticket", "--ppd", path("utf16.ppd")}, "utf16.ppd: Missing asterisk"},
+        {{"--dump-ticket", "--ppd", path("tmp")}, "folder"},
+        {{"--dump-ticket", "--ticket", "/dev/zero"}, "larger than"},
         {{"--dump-ticket", "--printer", "NoSuchQueue"}, "NoSuchQueue"}, // and no server
         {{"--dump-ticket", path("none.pdf")}, "none.pdf"},
         {{"--print"}, "--print"},                          // nothing to print

@@ -206,6 +206,18 @@ TEST_F(PrintDialogTest, PrinterFromAPpdFileKeepsThatFile)
     EXPECT_EQ(m_session.currentPrinter()->ppdPath, ppd);
 }
 
+TEST_F(PrintDialogTest, UnusablePpdIsNamedInTheStatusLine)
+{
+    const QString ppd = m_home.filePath("Broken.ppd");
+    QFile broken(ppd);
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("not a printer description"));
+    broken.close();
+    const auto dialog = makeDialog({PrinterEntry{"Broken", {}, ppd, true, true}});
+    const QString status = field<QLabel>(*dialog, "StatusLabel")->text();
+    EXPECT_TRUE(status.contains("cannot open the PPD file " + ppd + ": ")) << status.toStdString();
+    EXPECT_TRUE(m_session.currentPrinter()->ppdPath.isEmpty());
+}
+
 TEST_F(PrintDialogTest, FailureToPrintShowsWhyAndKeepsTheDialogAndItsFields)
 {
     ASSERT_TRUE(WritePostScriptDocument(m_home.filePath("report.ps"), 1));

@@ -49,9 +49,9 @@ TEST(InvertImage, ReadsEachKeyWithItsOwnTest)
     EXPECT_EQ(options, (II_Options{true, false, false}));
 }
 
-// Writing takes each flag from whether its control exists, whatever the
-// options held: a headless panel writes 0 and 0, one with its controls 1 and 1.
-TEST(InvertImage, WritingTakesTheFlagsFromThePresenceOfTheControls)
+// Writing sets each flag whose control exists, whatever the control shows; a
+// flag without its control keeps what was read.
+TEST(InvertImage, WritingSetsTheFlagsOfTheControlsThatExist)
 {
     const struct
     {
@@ -59,9 +59,10 @@ TEST(InvertImage, WritingTakesTheFlagsFromThePresenceOfTheControls)
         II_Options before;
         long negative, mirror;
     } cases[] = {
-        {{false, false}, {true, true, true}, 0, 0},
+        {{false, false}, {true, false, true}, 0, 1},
+        {{false, false}, {true, true, false}, 1, 0},
         {{true, true}, {true, false, false}, 1, 1},
-        {{true, false}, {true, false, true}, 1, 0},
+        {{true, false}, {true, false, false}, 1, 0},
     };
     for (const auto& c : cases) {
         Ticket ticket;

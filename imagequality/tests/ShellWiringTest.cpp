@@ -107,13 +107,16 @@ TEST(OrvanPrint, DumpTicketKeepsTheChoicesAndWritesThePanelsItems)
     SetPpdChoice(in, "Resolution", "1200x1200dpi");
     SetPpdChoice(in, "JCLBanner", "True");
     SetPpdChoice(in, "Jog", "EndOfSet");
-    testing::SetInvertFlags(in.printSettings(), 1, 1);
+    SetPpdChoice(in, "NoSuchOption", "True"); // not the printer's: not carried on
+    testing::SetInvertFlags(in.printSettings(), -1, -1);
     const PrintSession dumped = Dumped(in);
     for (const char* keyword : {"Resolution", "JCLBanner", "Jog"})
         EXPECT_EQ(testing::PpdChoice(dumped, keyword), testing::PpdChoice(in, keyword));
     const Ticket& out = dumped.printSettings();
-    // Headless: no invert-image controls, so both flags are written as 0.
-    EXPECT_EQ(testing::InvertFlags(out), std::pair(0L, 0L));
+    EXPECT_FALSE(out.ppdDictionary().contains("NoSuchOption"));
+    // Headless: no invert-image controls, so the flags keep what was read:
+    // -1 is not negative (only values above 0 are) but is mirror (any but 0).
+    EXPECT_EQ(testing::InvertFlags(out), std::pair(0L, 1L));
     // No booklet order in the ticket: the default 2 is written.
     EXPECT_EQ(out.integer(kBookletLayoutOrderKey), kDefaultBookletImageOrder);
     EXPECT_EQ(out.item(kBookletLayoutOrderKey)->client, kPanelClient);

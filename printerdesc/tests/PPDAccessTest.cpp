@@ -57,6 +57,27 @@ TEST(PPDTicketChoices, SetAndCopyThroughThePPDDictionary)
     EXPECT_EQ(PPDCopyCurrentChoice(&ticket, QString()), std::nullopt);
 }
 
+TEST(PPDTicketChoices, ChoicesThePrinterDoesNotOfferAreDropped)
+{
+    PpdFilePtr ppd = OpenOrFail(kSamplePpd);
+    Ticket ticket;
+    for (const auto& [keyword, choice] :
+         {std::pair{"Resolution", "1200x1200dpi"}, std::pair{"NoSuchOption", "True"},
+          std::pair{"PageSize", "Custom.612x1008"}, std::pair{"Jog", "EndOfSet"}})
+        PPDSetCurrentChoice(&ticket, keyword, choice);
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(PPDDropChoicesNotOffered(ppd.get(), &ticket), 1);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              "orvan: the printer does not offer NoSuchOption=True; the choice is dropped\n");
+    EXPECT_EQ(ticket.ppdDictionary().size(), 3u);
+    PPDSetCurrentChoice(&ticket, "Resolution", "9999x9999dpi");
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(PPDDropChoicesNotOffered(ppd.get(), &ticket), 1);
+    ::testing::internal::GetCapturedStderr();
+    EXPECT_EQ(PPDCopyCurrentChoice(&ticket, "Resolution"), std::nullopt);
+    EXPECT_EQ(PPDDropChoicesNotOffered(nullptr, &ticket), 0);
+}
+
 TEST(PPDTicketChoices, TicketChoiceOrThePPDsDefault)
 {
     PpdFilePtr ppd = OpenOrFail(kSamplePpd);
@@ -97,6 +118,10 @@ TEST(PPDTexts, DefaultsChoiceTextsAndEncodings)
         {"latin1.ppd", TextEncoding::ISOLatin1, graveA},
         // Outside the known list: read as Mac Roman, where byte E0 is a double dagger.
         {"latin9.ppd", TextEncoding::MacRoman, QString::fromUtf8("Agrafe \u2021 gauche")},
+        // libcups reads these two otherwise (Cyrillic, Latin 1); the file's bytes decide.
+        {"latin5.ppd", TextEncoding::ISOLatin5,
+         QString::fromUtf8("Z\u0131mba \u011f sol \u00fcst")},
+        {"no-encoding.ppd", TextEncoding::MacRoman, QString::fromUtf8("Agrafe \u00e4\u00f6")},
     };
     for (const auto& [file, encoding, stapleText] : cases) {
         PpdFilePtr ppd = OpenOrFail(TestPpdPath(file));

@@ -84,6 +84,14 @@
         <translation>None</translation>
     </message>
     <message>
+        <source>StockDescriptionSetup</source>
+        <translation>Stock Description</translation>
+    </message>
+    <message>
+        <source>StockNameLabel</source>
+        <translation>Stock name:</translation>
+    </message>
+    <message>
         <source>StockDescriptionLabel</source>
         <translation>Description:</translation>
     </message>

@@ -52,35 +52,60 @@ TEST_F(PreferencesTest, MissingFileReadsEmptyAndWriteCreatesIt)
     EXPECT_EQ(prefs->size(), 0u);
 
     PropertyValue history = PropertyValue::dictionary();
-    history.insert("JobName", PropertyValue(PropertyArray{PropertyValue("Report"), PropertyValue("Memo")}));
+    history.insert("JobName",
+                   PropertyValue(PropertyArray{PropertyValue("Report"), PropertyValue("Memo")}));
     ASSERT_TRUE(WriteUserPreferences("com.orvan.print.inputhistory.plist", history));
     EXPECT_TRUE(QFileInfo::exists(userFile("com.orvan.print.inputhistory.plist")));
     EXPECT_EQ(*CopyUserPreferences("com.orvan.print.inputhistory.plist"), history);
 }
 
-TEST_F(PreferencesTest, CorruptOrForeignFilesReadAsEmptyAndOthersAreUntouched)
+TEST_F(PreferencesTest, DamagedFilesReadAsEmptyAndAreSetAsideByTheNextWrite)
 {
+    const QByteArray history =
+        "<?xml version=\"1.0\"?><plist><dict><key>JobName</key><array><string>Memo</string>"
+        "</array></dict>"; // no closing tag
+    writeRaw(userFile("truncated.plist"), history);
     writeRaw(userFile("broken.plist"), "this is not a property list");
-    writeRaw(userFile("truncated.plist"), "<?xml version=\"1.0\"?><plist><dict><key>a</key><str");
-    writeRaw(userFile("array.plist"), *writePropertyList(PropertyValue(PropertyArray{PropertyValue("x")})));
+    writeRaw(userFile("array.plist"),
+             *writePropertyList(PropertyValue(PropertyArray{PropertyValue("x")})));
     writeRaw(userFile("other.plist"), "keep me");
-    for (const char* name : {"broken.plist", "truncated.plist", "array.plist"}) {
+    for (const char* name : {"truncated.plist", "broken.plist", "array.plist"}) {
         const auto prefs = CopyUserPreferences(name);
         ASSERT_TRUE(prefs) << name;
         EXPECT_EQ(*prefs, PropertyValue::dictionary()) << name;
+        EXPECT_TRUE(QFile::exists(userFile(name))) << "reading moved " << name;
     }
-    // The next write sets the corrupt file aside and replaces it; its
-    // neighbour stays as it was.
+    testing::internal::CaptureStderr();
     PropertyValue value = PropertyValue::dictionary();
-    value.insert("k", PropertyValue("v"));
-    ASSERT_TRUE(WriteUserPreferences("broken.plist", value));
-    EXPECT_EQ(*CopyUserPreferences("broken.plist"), value);
-    QFile aside(userFile("broken.plist.unreadable"));
-    ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
-    EXPECT_EQ(aside.readAll(), "this is not a property list");
+    value.insert("Copies", PropertyValue("2"));
+    ASSERT_TRUE(WriteUserPreferences("truncated.plist", value));
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_NE(said.find("set aside"), std::string::npos) << said;
+    EXPECT_EQ(*CopyUserPreferences("truncated.plist"), value);
+    const QStringList aside =
+        QDir(m_dir.filePath("config/orvan")).entryList({"truncated.plist.unreadable-*"});
+    ASSERT_EQ(aside.size(), 1);
+    QFile kept(m_dir.filePath("config/orvan/" + aside[0]));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), history);
     QFile other(userFile("other.plist"));
     ASSERT_TRUE(other.open(QIODevice::ReadOnly));
     EXPECT_EQ(other.readAll(), "keep me");
+}
+
+TEST_F(PreferencesTest, UserFilesAndTheirFolderArePrivateWhateverTheUmask)
+{
+    const mode_t savedMask = ::umask(022);
+    const bool written = WriteUserPreferences("p.plist", PropertyValue::dictionary());
+    ::umask(savedMask);
+    ASSERT_TRUE(written);
+    const auto modeOf = [](const QString& path) {
+        struct stat info = {};
+        return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 0777
+                                                                       : 0777u;
+    };
+    EXPECT_EQ(modeOf(userFile("p.plist")), 0600u);
+    EXPECT_EQ(modeOf(m_dir.filePath("config/orvan")), 0700u);
 }
 
 TEST_F(PreferencesTest, FailedWriteKeepsTheOldFileAndReportsTheCode)
@@ -102,7 +127,8 @@ TEST_F(PreferencesTest, FailedWriteKeepsTheOldFileAndReportsTheCode)
         ASSERT_EQ(chmod(QFile::encodeName(m_dir.filePath("config/orvan")).constData(), 0500), 0);
         testing::internal::CaptureStderr();
         EXPECT_FALSE(WriteUserPreferences("p.plist", PropertyValue::dictionary()));
-        EXPECT_TRUE(testing::internal::GetCapturedStderr().starts_with("WriteUserPreferences() failed ("));
+        EXPECT_TRUE(
+            testing::internal::GetCapturedStderr().starts_with("WriteUserPreferences() failed ("));
         chmod(QFile::encodeName(m_dir.filePath("config/orvan")).constData(), 0700);
         EXPECT_EQ(*CopyUserPreferences("p.plist"), good);
     }
@@ -121,15 +147,23 @@ TEST_F(PreferencesTest, SharedFolderIsCreatedOnFirstUse)
     value.insert("WatermarkList", PropertyValue(PropertyArray{PropertyValue("Draft")}));
     ASSERT_TRUE(WriteXMLData("com.orvan.printing.watermarks.plist", value));
     EXPECT_EQ(*CopyXMLData("com.orvan.printing.watermarks.plist"), value);
+    EXPECT_EQ(CreatePropertiesFromXMLFile(location), value);
+    EXPECT_EQ(CreatePropertiesFromXMLFile(folder), std::nullopt);
 }
 
 TEST_F(PreferencesTest, SharedFileParseErrorIsReportedWithItsPosition)
 {
-    writeRaw(m_dir.filePath("shared/Orvan/bad.plist"), "<plist>\n<dict>\n<key>a</key>\n</dict>\n</plist>");
+    writeRaw(m_dir.filePath("shared/Orvan/bad.plist"),
+             "<plist>\n<dict>\n<key>a</key>\n</dict>\n</plist>");
     testing::internal::CaptureStderr();
     EXPECT_FALSE(CopyXMLData("bad.plist"));
     const std::string err = testing::internal::GetCapturedStderr();
-    EXPECT_TRUE(err.starts_with("CopyXMLData()::CFPropertyListCreateFromXMLData() error: line 4")) << err;
+    EXPECT_TRUE(err.starts_with("CopyXMLData()::CFPropertyListCreateFromXMLData() error: line 4"))
+        << err;
+    // Set aside, so that the next write does not destroy it.
+    const QStringList left = QDir(m_dir.filePath("shared/Orvan")).entryList({"bad.plist*"});
+    ASSERT_EQ(left.size(), 1);
+    EXPECT_TRUE(left[0].startsWith("bad.plist.unreadable-")) << left[0].toStdString();
 }
 
 TEST_F(PreferencesTest, NoApplicationSupportFolderGivesNoLocation)

@@ -230,6 +230,8 @@ TEST_F(ShellTest, SkippedRecordsTakeNoPartAndMissingSessionIsRefused)
     EXPECT_EQ(ShellSync(m_shell, nullptr, true), kSyncMissingContext);
     EXPECT_EQ(ShellSync(nullptr, &m_session, true), kSyncMissingContext);
     EXPECT_EQ(ShellGetSummaryText(nullptr, nullptr, nullptr), kMissingContext);
+    // Terminate skips the record as well; back in its tab, its panel is released.
+    m_shell->panels[0].tabNumber = 1;
 }
 
 TEST_F(ShellTest, ReadingSyncWritesNothingAndWritingSyncWritesTheShellItems)

@@ -4,7 +4,9 @@
 #include "stock/AdvancedStockDialog.h"
 #include "stock/CustomSizeDialog.h"
 #include "stock/StockButton.h"
+#include "stock/StockDescriptionDialog.h"
 #include "stock/StockIconView.h"
+#include "ui/Help.h"
 #include "ui/PopupMenus.h"
 
 #include <QApplication>
@@ -230,6 +232,40 @@ TEST(AdvancedStockDialog, EditsTheAttributesAndCancelKeepsThem)
     });
     EXPECT_FALSE(RunModalAdvancedStockDialog(bundle.get(), stock, JobContext::Covers));
     EXPECT_EQ(stock.weight(), kUnset);
+}
+
+TEST(StockDescriptionSetup, NamesAndDescribesTheStockOnOKOnly)
+{
+    auto bundle = testing::PluginBundle();
+    Stock stock;
+    DefaultStock(stock, JobContext::Job);
+    stock.setCustomName("Old");
+    QUrl helpShown;
+    const HelpUrlOpener previous = SetHelpUrlOpener([&helpShown](const QUrl& url) {
+        helpShown = url;
+        return true;
+    });
+    WhenShown("StockDescriptionSetup", [](QWidget* dialog) {
+        EXPECT_FALSE(Child<QLabel>(dialog, "StockDescriptionSummary")->text().isEmpty());
+        EXPECT_EQ(Child<QLineEdit>(dialog, "StockName")->text(), "Old");
+        Child<QPushButton>(dialog, "HelpButton")->click();
+        Child<QLineEdit>(dialog, "StockName")->setText(" Letterhead blue ");
+        Child<QLineEdit>(dialog, "StockDescription")->setText("Printed at the top");
+        Child<QPushButton>(dialog, "OKButton")->click();
+    });
+    ASSERT_TRUE(RunModalStockDescriptionSetup(bundle.get(), stock, JobContext::Job));
+    SetHelpUrlOpener(previous);
+    EXPECT_EQ(stock.customName(), "Letterhead blue");
+    EXPECT_EQ(stock.description(), "Printed at the top");
+    EXPECT_TRUE(helpShown.path().endsWith(kStockDescriptionHelpPage))
+        << helpShown.toString().toStdString();
+
+    WhenShown("StockDescriptionSetup", [](QWidget* dialog) {
+        Child<QLineEdit>(dialog, "StockName")->setText("Other");
+        Child<QPushButton>(dialog, "CancelButton")->click();
+    });
+    EXPECT_FALSE(RunModalStockDescriptionSetup(bundle.get(), stock, JobContext::Job));
+    EXPECT_EQ(stock.customName(), "Letterhead blue");
 }
 
 } // namespace

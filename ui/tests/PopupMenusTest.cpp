@@ -1,6 +1,7 @@
 // Pop-up buttons and menus filled from setting maps and input histories.
 #include "ui/PopupMenus.h"
 
+#include "printerdesc/PpdFile.h"
 #include "settings/Bundle.h"
 #include "settings/Preferences.h"
 #include "settings/SettingMapAccess.h"
@@ -48,8 +49,8 @@ protected:
         for (int i = 0; i < popup.count(); ++i) {
             const std::int32_t value = PopupButtonItemTicketValue(&popup, i);
             const std::uint32_t command = PopupButtonItemCommand(&popup, i);
-            rows << popup.itemText(i) + ' ' +
-                        (value == kUnset ? "unset" : QString::number(value)) + ' ' +
+            rows << popup.itemText(i) + ' ' + (value == kUnset ? "unset" : QString::number(value)) +
+                        ' ' +
                         (command == kChooseCommand    ? "cho"
                          : command == kHistoryCommand ? "his"
                                                       : QString::number(command));
@@ -105,6 +106,19 @@ TEST_F(PopupMenusTest, PopupsMirrorTheMapWithValuesCommandsAndHistories)
     QComboBox popup;
     EXPECT_EQ(PopupButtonItemCommand(&popup, 9), 0u);
     EXPECT_EQ(PopulatePopupButtonFromMap(&m_bundle, nullptr, kMenuMap, 0, 0), 0);
+}
+
+TEST_F(PopupMenusTest, PpdPopupsListTheOptionsChoicesWithTheirValues)
+{
+    PpdFilePtr ppd = OpenPPDFile(ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd");
+    ASSERT_TRUE(ppd);
+    QComboBox popup;
+    EXPECT_EQ(PPDPopulatePopupWithChoices(&popup, ppd.get(), "Resolution", false), 7);
+    EXPECT_EQ(PopupButtonMaximum(&popup), 7);
+    EXPECT_EQ(items(popup), "200 x 100 dpi 6 0, 200 x 200 dpi 5 0, 300 dpi 1 0, 600 dpi 2 0, "
+                            "1200 x 600 dpi 3 0, 1200 dpi 4 0, 1800 dpi 7 0");
+    EXPECT_EQ(PPDPopulatePopupWithChoices(&popup, nullptr, "Resolution", false), 0);
+    EXPECT_EQ(popup.count(), 7) << "untouched without a PPD";
 }
 
 TEST_F(PopupMenusTest, SelectionByTicketValueLeavesTheSelectionWhenNoItemMatches)

@@ -2,22 +2,20 @@
 //
 //   orvan-type42 FONT.ttf [POSTSCRIPT-NAME] [-o OUT]
 //
-// The program goes to standard output, or replaces OUT atomically. Without a
-// name the font's own PostScript name is used. Exit status: 0 done, 1 the
+// The program goes to standard output, or to OUT (replaced atomically when it
+// is a regular file, written through when it is a device or pipe, "-" for
+// standard output). Without a name the font's own PostScript name is used.
+// Fonts larger than kMaxFontFileSize are refused. Exit status: 0 done, 1 the
 // font could not be read, converted or written, 2 bad usage. Plain C++ and
 // POSIX only, so that it starts fast.
 
+#include "platform/FileAccess.h"
 #include "watermark/type42/FontPostScriptName.h"
 #include "watermark/type42/Type42Converter.h"
 
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
-#include <fcntl.h>
 #include <optional>
 #include <string>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -100,93 +98,6 @@ std::optional<const char*> parseArguments(int argc, char** argv, Arguments& argu
     return std::nullopt;
 }
 
-// Reads a whole file; on failure returns errno.
-int readFile(const std::string& path, std::vector<std::uint8_t>& bytes)
-{
-    const int fd = path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0)
-        return errno;
-    struct stat info
-    {
-    };
-    if (::fstat(fd, &info) == 0) {
-        if (S_ISDIR(info.st_mode)) {
-            ::close(fd);
-            return EISDIR;
-        }
-        if (S_ISREG(info.st_mode))
-            bytes.reserve(static_cast<std::size_t>(info.st_size));
-    }
-    std::uint8_t chunk[65536];
-    for (;;) {
-        const ssize_t got = ::read(fd, chunk, sizeof chunk);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0) {
-            const int error = errno;
-            if (fd != STDIN_FILENO)
-                ::close(fd);
-            return error;
-        }
-        if (got == 0)
-            break;
-        bytes.insert(bytes.end(), chunk, chunk + got);
-    }
-    if (fd != STDIN_FILENO)
-        ::close(fd);
-    return 0;
-}
-
-// Writes all of `text` to `fd`; on failure returns errno.
-int writeAll(int fd, const std::string& text)
-{
-    const char* data = text.data();
-    std::size_t left = text.size();
-    while (left > 0) {
-        const ssize_t put = ::write(fd, data, left);
-        if (put < 0 && errno == EINTR)
-            continue;
-        if (put < 0)
-            return errno;
-        data += put;
-        left -= static_cast<std::size_t>(put);
-    }
-    return 0;
-}
-
-// Replaces `path` with `text`: a temporary file beside it, synced, then
-// renamed over it, so that readers see the old file or the whole new one.
-int replaceFile(const std::string& path, const std::string& text)
-{
-    std::string temporary = path + ".XXXXXX";
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0)
-        return errno;
-    mode_t mode = 0;
-    struct stat existing
-    {
-    };
-    if (::stat(path.c_str(), &existing) == 0) {
-        mode = existing.st_mode & 07777;
-    } else {
-        const mode_t mask = ::umask(0);
-        ::umask(mask);
-        mode = 0666 & ~mask;
-    }
-    int error = writeAll(fd, text);
-    if (error == 0 && ::fchmod(fd, mode) != 0)
-        error = errno;
-    if (error == 0 && ::fsync(fd) != 0)
-        error = errno;
-    if (::close(fd) != 0 && error == 0)
-        error = errno;
-    if (error == 0 && ::rename(temporary.c_str(), path.c_str()) != 0)
-        error = errno;
-    if (error != 0)
-        ::unlink(temporary.c_str());
-    return error;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -200,8 +111,9 @@ int main(int argc, char** argv)
     }
 
     std::vector<std::uint8_t> font;
-    if (const int error = readFile(arguments.fontPath, font))
-        return failure(arguments.fontPath, std::strerror(error));
+    if (const auto error = orvan::ReadWholeFile(arguments.fontPath, orvan::kMaxFontFileSize, font);
+        !error.empty())
+        return failure(arguments.fontPath, error);
 
     std::optional<std::string> postScriptName = arguments.postScriptName;
     if (!postScriptName)
@@ -223,11 +135,9 @@ int main(int argc, char** argv)
                      orvan::describe(result).data());
     }
 
-    if (arguments.outputPath) {
-        if (const int error = replaceFile(*arguments.outputPath, program))
-            return failure(*arguments.outputPath, std::strerror(error));
-    } else if (const int error = writeAll(STDOUT_FILENO, program)) {
-        return failure("standard output", std::strerror(error));
-    }
+    const std::string output = arguments.outputPath.value_or("-");
+    if (const auto error = orvan::ReplaceFile(output, program, orvan::FilePrivacy::Default);
+        !error.empty())
+        return failure(output == "-" ? std::string("standard output") : output, error);
     return 0;
 }

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -97,6 +98,29 @@ TEST(Type42Tool, ReplacesTheOutputFileWholeAndLeavesNoTemporaryFile)
               QStringList{"font.t42"});
 }
 
+// Outputs that are not plain files: a device is written through, a link
+// keeps pointing at the file it names, "-" is standard output.
+TEST(Type42Tool, WritesThroughDevicesLinksAndStandardOutput)
+{
+    QTemporaryDir dir;
+    const std::string program = libraryProgram(kDejaVu, "Named");
+    EXPECT_EQ(tool({kDejaVu, "Named", "-o", "/dev/null"}).status, 0);
+    struct stat info = {};
+    ASSERT_EQ(::stat("/dev/null", &info), 0);
+    EXPECT_TRUE(S_ISCHR(info.st_mode));
+
+    const ToolRun dash = tool({kDejaVu, "Named", "-o", "-"});
+    EXPECT_EQ(dash.status, 0);
+    EXPECT_TRUE(dash.output == program);
+
+    const QString link = dir.filePath("link.t42");
+    ASSERT_TRUE(QFile::link("target.t42", link));
+    EXPECT_EQ(tool({kDejaVu, "Named", "-o", link}).status, 0);
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    const Bytes written = readFileBytes(dir.filePath("target.t42").toStdString());
+    EXPECT_TRUE(std::string(written.begin(), written.end()) == program);
+}
+
 // Usage errors exit with 2 and print the problem, then the synopsis; fonts
 // that cannot be read or converted, and files that cannot be written, exit
 // with 1 and one line.
@@ -128,6 +152,8 @@ TEST(Type42Tool, ErrorsExitNonZeroWithAShortMessage)
         {{write("short.ttf", Bytes(20, 0))}, 1},
         {{noName}, 1},
         {{kDejaVu, "-o", dir.filePath("no/such/folder/out.t42")}, 1},
+        {{kDejaVu, "-o", dir.path()}, 1},
+        {{"/dev/zero"}, 1}, // stops at the size cap instead of growing without end
     };
     for (const auto& c : cases) {
         const ToolRun result = tool(c.arguments);

@@ -1,0 +1,95 @@
+#include "stock/StockDescriptionDialog.h"
+
+#include "stock/StockMenus.h"
+#include "stock/StockSummary.h"
+#include "ui/Help.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace orvan {
+
+namespace {
+
+// Stock names travel to the printer's filter; keep them to a line.
+constexpr int kMaximumNameLength = 63;
+constexpr int kMaximumDescriptionLength = 255;
+
+QLineEdit* textField(const QString& text, int maximumLength, const char* objectName,
+                     QWidget* parent)
+{
+    auto* field = new QLineEdit(text, parent);
+    field->setObjectName(QString::fromLatin1(objectName));
+    field->setMaxLength(maximumLength);
+    return field;
+}
+
+} // namespace
+
+StockDescriptionDialog::StockDescriptionDialog(const Bundle* bundle, const Stock& stock,
+                                               JobContext context, QWidget* parent)
+    : QDialog(parent), m_name(textField(stock.customName(), kMaximumNameLength, "StockName", this)),
+      m_description(
+          textField(stock.description(), kMaximumDescriptionLength, "StockDescription", this))
+{
+    setObjectName(QStringLiteral("StockDescriptionSetup"));
+    setWindowTitle(LocalizedStockText(bundle, QStringLiteral("StockDescriptionSetup")));
+    setWindowModality(Qt::ApplicationModal);
+
+    QString summary = GenerateStockSummary(bundle, context, stock, QStringLiteral("\n"));
+    if (summary.isEmpty())
+        summary = LocalizedStockText(bundle, context == JobContext::Job
+                                                 ? QStringLiteral("PrinterDefault")
+                                                 : QStringLiteral("UseJobSetting"));
+    auto* shown = new QLabel(summary, this);
+    shown->setObjectName(QStringLiteral("StockDescriptionSummary"));
+    shown->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto* fields = new QFormLayout;
+    fields->addRow(LocalizedStockText(bundle, QStringLiteral("StockNameLabel")), m_name);
+    fields->addRow(LocalizedStockText(bundle, QStringLiteral("StockDescriptionLabel")),
+                   m_description);
+
+    auto* buttons = new QDialogButtonBox(
+        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
+    buttons->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("HelpButton"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(buttons, &QDialogButtonBox::helpRequested, this,
+            [bundle] { DisplayHelp(bundle, kStockDescriptionHelpPage, QString()); });
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(shown);
+    layout->addLayout(fields);
+    layout->addWidget(buttons);
+    m_name->setMinimumWidth(280);
+}
+
+QString StockDescriptionDialog::name() const
+{
+    return m_name->text().trimmed();
+}
+
+QString StockDescriptionDialog::description() const
+{
+    return m_description->text();
+}
+
+bool RunModalStockDescriptionSetup(const Bundle* bundle, Stock& stock, JobContext context,
+                                   QWidget* parent)
+{
+    StockDescriptionDialog dialog(bundle, stock, context, parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    stock.setCustomName(dialog.name());
+    stock.setDescription(dialog.description());
+    return true;
+}
+
+} // namespace orvan
