@@ -4,7 +4,6 @@
 #include "settings/Preferences.h"
 #include "settings/PropertyList.h"
 
-#include <QDateTime>
 #include <QFile>
 #include <QFileDevice>
 #include <QFileInfo>
