@@ -8,17 +8,18 @@
 
 namespace orvan {
 
-struct HostCommandLine {
-    QString printerQueue;   // --printer: a queue, or an IPP printer's ipp:// address
-    QString ppdFile;        // --ppd
-    QString ticketIn;       // --ticket
-    QString ticketOut;      // --save-ticket
+struct HostCommandLine
+{
+    QString printerQueue;    // --printer: a queue, or an IPP printer's ipp:// address
+    QString ppdFile;         // --ppd
+    QString ticketIn;        // --ticket
+    QString ticketOut;       // --save-ticket
     bool dumpTicket = false; // --dump-ticket
     bool print = false;      // --print: no dialog
     QString preset;          // --preset
-    QString screenshotPath; // --screenshot
-    int tab = 0;            // --tab, 0 = the shell's choice
-    int pane = 0;           // --pane, 0 = the shell's pane
+    QString screenshotPath;  // --screenshot
+    int tab = 0;             // --tab, 0 = the shell's choice
+    int pane = 0;            // --pane, 0 = the shell's pane
     bool help = false;
     QStringList files;
 };

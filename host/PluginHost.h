@@ -59,13 +59,13 @@ public:
     bool terminated() const { return !shell().running(); }
 
 private:
-    struct FactoryReleaser {
+    struct FactoryReleaser
+    {
         void operator()(PlugInInstance* instance) const { instance->table->Release(instance); }
     };
 
     PluginHost() = default;
-    template <class Operation>
-    Status forEachRunningPane(Operation&& operation);
+    template <class Operation> Status forEachRunningPane(Operation&& operation);
 
     QString m_folder;
     // Declared first, destroyed last: the panes and the factory run its code.

@@ -4,12 +4,12 @@
 #include "host/JobSubmission.h"
 #include "host/PageSetupView.h"
 #include "host/PaperSizes.h"
-#include "host/PreviewPane.h"
-#include "host/WatermarkStampSource.h"
-#include "printerdesc/PpdFile.h"
 #include "host/PresetPopup.h"
 #include "host/Presets.h"
+#include "host/PreviewPane.h"
+#include "host/WatermarkStampSource.h"
 #include "printerdesc/PPDAccess.h"
+#include "printerdesc/PpdFile.h"
 #include "settings/TicketFile.h"
 #include "shell/CommandEvent.h"
 #include "shell/PDEShell.h"
@@ -41,7 +41,8 @@
 
 namespace orvan {
 
-std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error)
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder,
+                                         QString* error)
 {
     if (!printer.ppdFile.isEmpty())
         return printer.ppdFile;
@@ -57,13 +58,14 @@ std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QStr
     return FetchQueuePPD(printer.queueName, error);
 }
 
-PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
-                         Options options, QWidget* parent)
+PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin,
+                         std::vector<PrinterEntry> printers, Options options, QWidget* parent)
     : QDialog(parent), m_session(session), m_plugin(plugin), m_printers(std::move(printers)),
-      m_options(std::move(options)), m_printerPopup(new QComboBox(this)), m_presets(new PresetPopup(this)),
-      m_copies(new QSpinBox(this)),
-      m_allPages(new QRadioButton(tr("All"), this)), m_pageRange(new QRadioButton(tr("From:"), this)),
-      m_fromPage(new QSpinBox(this)), m_toPage(new QSpinBox(this)), m_panePopup(new QComboBox(this)),
+      m_options(std::move(options)), m_printerPopup(new QComboBox(this)),
+      m_presets(new PresetPopup(this)), m_copies(new QSpinBox(this)),
+      m_allPages(new QRadioButton(tr("All"), this)),
+      m_pageRange(new QRadioButton(tr("From:"), this)), m_fromPage(new QSpinBox(this)),
+      m_toPage(new QSpinBox(this)), m_panePopup(new QComboBox(this)),
       m_paneStack(new QStackedWidget(this)), m_status(new QLabel(this)),
       m_pageSetupView(new PageSetupView(m_pageSetup, this)), m_preview(new PreviewPane(this)),
       m_panelChanged(new QTimer(this))
@@ -74,9 +76,10 @@ PrintDialog::PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<
     pdf.savesPdf = true;
     m_printers.push_back(pdf);
     setObjectName(QStringLiteral("PrintDialog"));
-    setWindowTitle(m_options.files.isEmpty()
-                       ? tr("Print")
-                       : tr("Print \u201C%1\u201D").arg(QFileInfo(m_options.files.first()).fileName()));
+    setWindowTitle(
+        m_options.files.isEmpty()
+            ? tr("Print")
+            : tr("Print \u201C%1\u201D").arg(QFileInfo(m_options.files.first()).fileName()));
     m_printerPopup->setObjectName(QStringLiteral("PrinterPopup"));
     m_copies->setObjectName(QStringLiteral("CopiesField"));
     m_allPages->setObjectName(QStringLiteral("AllPagesButton"));
@@ -221,7 +224,8 @@ void PrintDialog::writeControlsToTicket()
     if (m_allPages->isChecked())
         WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), 1, kAllPagesLast);
     else
-        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), m_fromPage->value(), m_toPage->value());
+        WriteCopiesAndPages(m_session.printSettings(), m_copies->value(), m_fromPage->value(),
+                            m_toPage->value());
 }
 
 bool PrintDialog::attachPrinter(const PrinterEntry& printer, QString* error)
@@ -256,12 +260,14 @@ void PrintDialog::startPlugin()
     QSize largest;
     for (const auto& pane : m_plugin.panes()) {
         auto* widget = new QWidget(m_paneStack);
-        widget->setObjectName(pane->isShell() ? QStringLiteral("PluginPane") : pane->exportedName());
+        widget->setObjectName(pane->isShell() ? QStringLiteral("PluginPane")
+                                              : pane->exportedName());
         m_paneStack->addWidget(widget);
         parents.push_back(widget);
         if (pane->running()) {
             m_panePopup->addItem(pane->title(), static_cast<int>(parents.size() - 1));
-            largest = largest.expandedTo(QSize(static_cast<int>(pane->maxWidth()), static_cast<int>(pane->maxHeight())));
+            largest = largest.expandedTo(
+                QSize(static_cast<int>(pane->maxWidth()), static_cast<int>(pane->maxHeight())));
         }
     }
     m_paneStack->setMinimumSize(largest);
@@ -292,7 +298,8 @@ void PrintDialog::stopPlugin()
 void PrintDialog::showPane(int index)
 {
     const auto& panes = m_plugin.panes();
-    if (!m_pluginRunning || index == m_currentPane || index < 0 || index >= static_cast<int>(panes.size()))
+    if (!m_pluginRunning || index == m_currentPane || index < 0 ||
+        index >= static_cast<int>(panes.size()))
         return;
     panes[static_cast<std::size_t>(m_currentPane)]->sync(&m_session, false);
     panes[static_cast<std::size_t>(index)]->sync(&m_session, true);
@@ -313,7 +320,8 @@ void PrintDialog::choosePrinter(int index)
     QString why;
     const PrinterEntry& printer = m_printers[static_cast<std::size_t>(index)];
     if (!attachPrinter(printer, &why))
-        m_status->setText(tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
+        m_status->setText(
+            tr("This printer's options could not be read (%1); its defaults are shown.").arg(why));
     else
         m_status->clear();
     offerPapers(printer);
@@ -407,7 +415,6 @@ bool PrintDialog::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-
 void PrintDialog::fail(const QString& message)
 {
     m_lastError = message;
@@ -498,7 +505,8 @@ void PrintDialog::print()
     }
     if (!m_options.files.isEmpty()) {
         if (printer.queueName.isEmpty() && printer.printerUri.isEmpty()) {
-            fail(tr("The sample printer is not connected to a print queue. Choose a CUPS queue to print, "
+            fail(tr("The sample printer is not connected to a print queue. Choose a CUPS queue to "
+                    "print, "
                     "or save the job's settings with --save-ticket."));
             return;
         }
@@ -561,7 +569,8 @@ bool PrintDialog::stampedCopies(const QTemporaryDir& folder, QStringList* files)
         std::tie(preparation.firstPage, preparation.lastPage) =
             PageRangeFromTicket(m_session.printSettings());
         // The copy keeps the file's name, which names the job.
-        const QString copy = folder.filePath(QStringLiteral("%1/%2").arg(files->size()).arg(QFileInfo(file).fileName()));
+        const QString copy = folder.filePath(
+            QStringLiteral("%1/%2").arg(files->size()).arg(QFileInfo(file).fileName()));
         QDir().mkpath(QFileInfo(copy).path());
         const PreparationResult result = PrepareDocument(file, preparation, copy);
         if (!result.ok()) {

@@ -1,6 +1,7 @@
 // The Print dialog: printer pop-up (with "Save as PDF"), copies and pages,
-// the page setup, the preview, the plug-in's panes, Cancel and Print. It owns no job settings itself: everything lives in the
-// print session's tickets, which the plug-in reads and writes on Sync.
+// the page setup, the preview, the plug-in's panes, Cancel and Print. It owns no job settings
+// itself: everything lives in the print session's tickets, which the plug-in reads and writes on
+// Sync.
 #pragma once
 
 #include "host/PageSetupModel.h"
@@ -34,7 +35,8 @@ class PrintDialog : public QDialog
 {
     Q_OBJECT
 public:
-    struct Options {
+    struct Options
+    {
         QStringList files;
         QString saveTicketPath; // written on Print when set
         int initialPrinter = 0; // index into printers
@@ -42,8 +44,8 @@ public:
         QString initialPreset;  // applied before the plug-in starts; a failure shows in the dialog
     };
 
-    PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers, Options options,
-                QWidget* parent = nullptr);
+    PrintDialog(PrintSession& session, PluginHost& plugin, std::vector<PrinterEntry> printers,
+                Options options, QWidget* parent = nullptr);
     ~PrintDialog() override;
 
     // The message of the last failure to print, for callers and tests.
@@ -116,6 +118,7 @@ private:
 
 // The PPD location of a printer entry: its own PPD file when it has one, the
 // queue's PPD from CUPS, or the sample printer's PPD in the plug-in's resources.
-std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder, QString* error);
+std::optional<QString> PpdPathForPrinter(const PrinterEntry& printer, const QString& pluginFolder,
+                                         QString* error);
 
 } // namespace orvan

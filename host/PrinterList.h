@@ -18,7 +18,7 @@ struct PrinterEntry
     bool isDefault = false;
     bool isSample = false;
     bool savesPdf = false; // "Save as PDF": writes a file instead of printing
-    QString printerUri; // an IPP printer given by its address (ipp://...); empty otherwise
+    QString printerUri;    // an IPP printer given by its address (ipp://...); empty otherwise
 };
 
 // An entry for the IPP printer at the address, printed to directly.

@@ -87,7 +87,8 @@ QByteArray paneOrderComment(const PluginHost& plugin)
     for (const auto& pane : plugin.panes())
         if (pane->running())
             titles << pane->title();
-    return "<!-- panes: " + titles.join(QStringLiteral(", ")).toUtf8().replace("--", "- -") + " -->\n";
+    return "<!-- panes: " + titles.join(QStringLiteral(", ")).toUtf8().replace("--", "- -") +
+           " -->\n";
 }
 
 // The headless dialog: every pane goes through the operations the Print
@@ -138,11 +139,14 @@ int main(int argc, char** argv)
     const bool screenshot = !line->screenshotPath.isEmpty();
     if (screenshot)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    else if (!headless && qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+    else if (!headless && qEnvironmentVariableIsEmpty("DISPLAY") &&
+             qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
              qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        return usageError(QStringLiteral("no display to show the dialog on; use --print, --dump-ticket or --screenshot"));
+        return usageError(QStringLiteral(
+            "no display to show the dialog on; use --print, --dump-ticket or --screenshot"));
 
-    std::unique_ptr<QCoreApplication> app(headless ? new QCoreApplication(argc, argv) : new QApplication(argc, argv));
+    std::unique_ptr<QCoreApplication> app(headless ? new QCoreApplication(argc, argv)
+                                                   : new QApplication(argc, argv));
     QCoreApplication::setApplicationName(QStringLiteral("orvan-print"));
 
     for (const QString& file : line->files)
@@ -182,11 +186,13 @@ int main(int argc, char** argv)
             fetchedPpd = TemporaryFile(*ppd);
         session.setCurrentPrinter(Printer{printer.queueName, ppd.value_or(QString())});
         if (!ppd)
-            std::fprintf(stderr, "orvan-print: %s; the printer's defaults are used\n", ppdWhy.toLocal8Bit().constData());
+            std::fprintf(stderr, "orvan-print: %s; the printer's defaults are used\n",
+                         ppdWhy.toLocal8Bit().constData());
     }
 
     // What the printer would not know is not carried on.
-    if (const auto& current = session.currentPrinter(); headless && current && !current->ppdPath.isEmpty())
+    if (const auto& current = session.currentPrinter();
+        headless && current && !current->ppdPath.isEmpty())
         PPDDropChoicesNotOffered(OpenPPDFile(current->ppdPath).get(), &session.printSettings());
     if (line->print)
         return RunHeadlessPrint(*plugin, session, printer, line->files, line->ticketOut);

@@ -1,12 +1,12 @@
 #include "imagequality/AdvancedModel.h"
 
-#include "shell/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/PrintSession.h"
 #include "settings/SettingMapAccess.h"
 #include "settings/SettingMaps.h"
 #include "settings/Ticket.h"
 #include "shell/PanelSync.h"
+#include "shell/PanelText.h"
 
 namespace orvan {
 

@@ -1,9 +1,9 @@
 #include "imagequality/AdvancedPanel.h"
 
 #include "imagequality/AboutDialog.h"
+#include "printerdesc/PPDAccess.h"
 #include "shell/PanelPane.h"
 #include "shell/PanelText.h"
-#include "printerdesc/PPDAccess.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/PopupMenus.h"
 

@@ -1,10 +1,10 @@
 #include "imagequality/ImageOptionsModel.h"
 
-#include "shell/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/PrintSession.h"
 #include "settings/Ticket.h"
 #include "shell/PanelSync.h"
+#include "shell/PanelText.h"
 
 namespace orvan {
 

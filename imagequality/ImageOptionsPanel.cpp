@@ -1,9 +1,9 @@
 #include "imagequality/ImageOptionsPanel.h"
 
-#include "shell/PanelPane.h"
-#include "shell/PanelText.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/Bundle.h"
+#include "shell/PanelPane.h"
+#include "shell/PanelText.h"
 #include "ui/LocalizedTitles.h"
 #include "ui/PopupMenus.h"
 

@@ -1,7 +1,7 @@
 #include "imagequality/ProductInfo.h"
 
-#include "shell/PanelText.h"
 #include "settings/Bundle.h"
+#include "shell/PanelText.h"
 
 namespace orvan {
 

@@ -4,8 +4,8 @@
 // and the print-settings ticket keys it travels under.
 #pragma once
 
-#include "fax/FaxOptions.h"        // kFaxOptionsKey
-#include "fax/FaxRecipient.h"      // kFaxRecipientListKey
+#include "fax/FaxOptions.h"      // kFaxOptionsKey
+#include "fax/FaxRecipient.h"    // kFaxRecipientListKey
 #include "settings/PageFormat.h" // the job name and orientation keys
 #include "settings/PropertyValue.h"
 #include "specialpages/Cover.h"

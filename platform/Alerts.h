@@ -9,9 +9,15 @@
 
 namespace orvan {
 
-enum class AlertLevel { Note, Caution, Stop };
+enum class AlertLevel
+{
+    Note,
+    Caution,
+    Stop
+};
 
-struct Alert {
+struct Alert
+{
     AlertLevel level = AlertLevel::Caution;
     QString title;
     QString message;

@@ -32,7 +32,8 @@ FileError ReadWholeFile(const std::string& path, std::size_t limit,
                         std::vector<std::uint8_t>& bytes);
 
 // Who may read a written file.
-enum class FilePrivacy : std::uint8_t {
+enum class FilePrivacy : std::uint8_t
+{
     Default,   // a new file gets 0666 less the umask; a replaced one keeps its mode
     OwnerOnly, // always 0600: the file may hold a passcode
 };

@@ -21,8 +21,8 @@ std::optional<QString> SessionUserName()
     std::vector<char> buffer(size > 0 ? static_cast<size_t>(size) : 16384);
     passwd entry{};
     passwd* result = nullptr;
-    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &result) != 0 || !result || !result->pw_name ||
-        !*result->pw_name)
+    if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &result) != 0 || !result ||
+        !result->pw_name || !*result->pw_name)
         return std::nullopt;
     return QString::fromLocal8Bit(result->pw_name);
 }
@@ -34,7 +34,8 @@ std::optional<QString> prettyHostNameFromMachineInfo(const QString& text)
         if (!line.startsWith(QLatin1String("PRETTY_HOSTNAME=")))
             continue;
         QString value = line.mid(16).trimmed();
-        if (value.size() >= 2 && (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\'')) &&
+        if (value.size() >= 2 &&
+            (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\'')) &&
             value.back() == value.front())
             value = value.mid(1, value.size() - 2);
         if (!value.isEmpty())
@@ -61,12 +62,14 @@ std::optional<QString> defaultRouteInterface(const QString& routeTable)
     // 00000000 with the route up (flag 0x1) is the default route.
     const QStringList lines = routeTable.split(QLatin1Char('\n'));
     for (qsizetype i = 1; i < lines.size(); ++i) {
-        const QStringList fields = lines[i].split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+        const QStringList fields =
+            lines[i].split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
         if (fields.size() < 8)
             continue;
         bool ok = false;
         const unsigned flags = fields[3].toUInt(&ok, 16);
-        if (fields[1] == QLatin1String("00000000") && fields[7] == QLatin1String("00000000") && ok && (flags & 1))
+        if (fields[1] == QLatin1String("00000000") && fields[7] == QLatin1String("00000000") &&
+            ok && (flags & 1))
             return fields[0];
     }
     return std::nullopt;
@@ -85,7 +88,8 @@ std::optional<QString> PrimaryIPv4Address()
         return std::nullopt;
     const std::unique_ptr<ifaddrs, void (*)(ifaddrs*)> addresses(raw, freeifaddrs);
     for (const ifaddrs* a = raw; a; a = a->ifa_next) {
-        if (!a->ifa_addr || a->ifa_addr->sa_family != AF_INET || *interface != QLatin1String(a->ifa_name))
+        if (!a->ifa_addr || a->ifa_addr->sa_family != AF_INET ||
+            *interface != QLatin1String(a->ifa_name))
             continue;
         char text[INET_ADDRSTRLEN] = {};
         const auto* in = reinterpret_cast<const sockaddr_in*>(a->ifa_addr);

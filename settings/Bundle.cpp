@@ -12,7 +12,8 @@
 
 namespace orvan {
 
-struct Bundle::Private {
+struct Bundle::Private
+{
     QString path;
     PropertyValue info = PropertyValue::dictionary();
     bool valid = false;
@@ -98,7 +99,8 @@ QString Bundle::resourcePath(const QString& name, const QString& type) const
     if (QFileInfo::exists(direct))
         return direct;
     for (const QString& languageFolder : languageFolders({})) {
-        const QString localised = resourcesPath() + QLatin1Char('/') + languageFolder + QLatin1Char('/') + file;
+        const QString localised =
+            resourcesPath() + QLatin1Char('/') + languageFolder + QLatin1Char('/') + file;
         if (QFileInfo::exists(localised))
             return localised;
     }
@@ -119,7 +121,8 @@ std::optional<QString> Bundle::localizedString(const QString& key, const QString
     return std::nullopt;
 }
 
-QString Bundle::localizedString(const QString& key, const QString& fallback, const QString& table) const
+QString Bundle::localizedString(const QString& key, const QString& fallback,
+                                const QString& table) const
 {
     return localizedString(key, table).value_or(fallback);
 }

@@ -12,7 +12,8 @@
 
 namespace orvan {
 
-inline const QString kBundleIdentifier = QStringLiteral("com.orvan.print.pde.orvanfeatures.bellona");
+inline const QString kBundleIdentifier =
+    QStringLiteral("com.orvan.print.pde.orvanfeatures.bellona");
 inline const QString kDefaultStringTable = QStringLiteral("Localizable");
 // Menus built from tables show this where a text is missing.
 inline const QString kStringNotFound = QStringLiteral("STRING NOT FOUND");
@@ -39,9 +40,11 @@ public:
 
     // The localised text of a key in a table; nullopt when the table has no
     // entry for it (so callers can tell a missing text from an empty one).
-    std::optional<QString> localizedString(const QString& key, const QString& table = kDefaultStringTable) const;
+    std::optional<QString> localizedString(const QString& key,
+                                           const QString& table = kDefaultStringTable) const;
     // The text, or the fallback when missing.
-    QString localizedString(const QString& key, const QString& fallback, const QString& table) const;
+    QString localizedString(const QString& key, const QString& fallback,
+                            const QString& table) const;
 
 private:
     struct Private;

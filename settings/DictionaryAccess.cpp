@@ -12,14 +12,16 @@ void WriteTicketValue(PropertyValue* dictionary, const QString& key, long value)
     CFDictionarySetNumber(dictionary, key, NumberType::CFIndex, static_cast<std::int64_t>(value));
 }
 
-void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type, std::int64_t value)
+void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type,
+                           std::int64_t value)
 {
     if (!dictionary || key.isNull())
         return;
     dictionary->insert(key, PropertyValue::integer(value, type));
 }
 
-void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type, double value)
+void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type,
+                           double value)
 {
     if (!dictionary || key.isNull())
         return;

@@ -22,14 +22,17 @@ bool GetCFIndexFromCFDictionary(const PropertyValue* dictionary, const QString& 
 void WriteTicketValue(PropertyValue* dictionary, const QString& key, long value);
 
 // Sets a number of the given type under the key.
-void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type, std::int64_t value);
-void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type, double value);
+void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type,
+                           std::int64_t value);
+void CFDictionarySetNumber(PropertyValue* dictionary, const QString& key, NumberType type,
+                           double value);
 
 // True only when the key is present, its value is a number and it converts
 // exactly to the requested type; the output is written only then.
 template <typename T>
-    requires std::integral<T> || std::floating_point<T>
-bool CFDictionaryGetNumber(const PropertyValue* dictionary, const QString& key, T* value, NumberType type)
+requires std::integral<T> || std::floating_point<T>
+bool CFDictionaryGetNumber(const PropertyValue* dictionary, const QString& key, T* value,
+                           NumberType type)
 {
     if (!dictionary || key.isNull() || !value)
         return false;

@@ -117,8 +117,9 @@ void SetAsideUnreadableFile(const QString& path, const QString& why)
 {
     if (!QFileInfo(path).isFile())
         return;
-    const QString dated = path + QStringLiteral(".unreadable-") +
-                          QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString dated =
+        path + QStringLiteral(".unreadable-") +
+        QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     QString aside = dated;
     for (int n = 2; QFileInfo::exists(aside) && n < 100; ++n)
         aside = dated + QLatin1Char('-') + QString::number(n);

@@ -19,7 +19,8 @@ inline const QString kPrinterInfoTicketKey = QStringLiteral("PMPrinterInfoTicket
 
 // The printer a session prints to: its queue name (empty for a PPD file given
 // without a queue) and the location of its PPD file (empty when it has none).
-struct Printer {
+struct Printer
+{
     QString queueName;
     QString ppdPath;
 

@@ -12,7 +12,8 @@ namespace orvan {
 
 // Where and why reading failed. Line and column are 1-based positions in the
 // input as the XML reader counts them.
-struct PropertyListError {
+struct PropertyListError
+{
     QString message;
     qint64 line = 0;
     qint64 column = 0;
@@ -27,7 +28,8 @@ struct PropertyListError {
 // asked for, says what and where. Integers cover the full signed 64-bit range
 // and come back as CFIndex when they fit 32 bits, else as SInt64; reals come
 // back as Float64; dates as UTC.
-std::optional<PropertyValue> readPropertyList(const QByteArray& xml, PropertyListError* error = nullptr);
+std::optional<PropertyValue> readPropertyList(const QByteArray& xml,
+                                              PropertyListError* error = nullptr);
 
 // Writes a value as an XML property list, keys of dictionaries in sorted
 // order, reals in their shortest exact form. Refuses (nullopt, with a reason)
@@ -41,7 +43,8 @@ inline constexpr int kMaxPropertyListDepth = 256;
 namespace plist {
 // The full reader alone, without the fast path that readPropertyList tries
 // first; tests and fuzzers check that both agree.
-std::optional<PropertyValue> readWithFullReader(const QByteArray& xml, PropertyListError* error = nullptr);
+std::optional<PropertyValue> readWithFullReader(const QByteArray& xml,
+                                                PropertyListError* error = nullptr);
 } // namespace plist
 
 } // namespace orvan

@@ -33,8 +33,8 @@ bool isPlainMarkup(const char* from, const char* to)
 
 bool isXmlChar(char32_t c)
 {
-    return c == 0x9 || c == 0xA || c == 0xD || (c >= 0x20 && c <= 0xD7FF) || (c >= 0xE000 && c <= 0xFFFD) ||
-           (c >= 0x10000 && c <= 0x10FFFF);
+    return c == 0x9 || c == 0xA || c == 0xD || (c >= 0x20 && c <= 0xD7FF) ||
+           (c >= 0xE000 && c <= 0xFFFD) || (c >= 0x10000 && c <= 0x10FFFF);
 }
 
 void appendUtf8(QByteArray& out, char32_t c)
@@ -110,7 +110,8 @@ public:
 private:
     bool startsWith(std::string_view s) const
     {
-        return static_cast<size_t>(m_end - m_p) >= s.size() && std::memcmp(m_p, s.data(), s.size()) == 0;
+        return static_cast<size_t>(m_end - m_p) >= s.size() &&
+               std::memcmp(m_p, s.data(), s.size()) == 0;
     }
     const char* find(char c) const
     {
@@ -161,7 +162,8 @@ private:
             while (m_p < m_end && isSpace(*m_p)) {
                 skipSpace();
                 const char* attr = m_p;
-                while (m_p < m_end && ((*m_p >= 'a' && *m_p <= 'z') || (*m_p >= 'A' && *m_p <= 'Z')))
+                while (m_p < m_end &&
+                       ((*m_p >= 'a' && *m_p <= 'z') || (*m_p >= 'A' && *m_p <= 'Z')))
                     ++m_p;
                 if (m_p == attr)
                     break;
@@ -212,7 +214,8 @@ private:
         bool plain = true;
         for (const char* q = start; q < close; ++q) {
             const auto c = static_cast<unsigned char>(*q);
-            if (c == '&' || c >= 0x80 || c == '\r' || c == ']' || (c < 0x20 && c != '\t' && c != '\n')) {
+            if (c == '&' || c >= 0x80 || c == '\r' || c == ']' ||
+                (c < 0x20 && c != '\t' && c != '\n')) {
                 plain = false;
                 break;
             }
@@ -224,7 +227,8 @@ private:
         for (const char* q = start; q < close;) {
             const auto c = static_cast<unsigned char>(*q);
             if (c == '\r' || (c < 0x20 && c != '\t' && c != '\n'))
-                return std::nullopt; // line-end folding and forbidden controls: the full reader decides
+                return std::nullopt; // line-end folding and forbidden controls: the full reader
+                                     // decides
             if (c == ']' && close - q >= 3 && q[1] == ']' && q[2] == '>')
                 return std::nullopt;
             if (c != '&') {
@@ -232,7 +236,8 @@ private:
                 ++q;
                 continue;
             }
-            const char* semicolon = static_cast<const char*>(std::memchr(q, ';', static_cast<size_t>(close - q)));
+            const char* semicolon =
+                static_cast<const char*>(std::memchr(q, ';', static_cast<size_t>(close - q)));
             if (!semicolon)
                 return std::nullopt;
             const std::string_view ref(q + 1, static_cast<size_t>(semicolon - q - 1));
@@ -274,7 +279,8 @@ private:
         }
         // A U+FEFF at the start of a text is content here, not a byte-order mark.
         QStringDecoder decoder(QStringConverter::Utf8,
-                               QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);
+                               QStringConverter::Flag::Stateless |
+                                   QStringConverter::Flag::ConvertInitialBom);
         QString decoded = decoder.decode(utf8);
         if (decoder.hasError())
             return std::nullopt;
@@ -320,7 +326,8 @@ private:
             return parseDate(*t, nullptr);
         }
         if (name == "true" || name == "false")
-            return empty ? std::optional<PropertyValue>(PropertyValue::boolean(name == "true")) : std::nullopt;
+            return empty ? std::optional<PropertyValue>(PropertyValue::boolean(name == "true"))
+                         : std::nullopt;
         if (name == "data") {
             if (empty)
                 return PropertyValue::data(QByteArray());

@@ -40,7 +40,8 @@ constexpr std::array<std::uint16_t, 4096> makePairTable()
     return t;
 }
 constexpr auto kPairs = makePairTable();
-static_assert(std::endian::native == std::endian::little, "the pair table assumes little-endian words");
+static_assert(std::endian::native == std::endian::little,
+              "the pair table assumes little-endian words");
 
 // Four characters for three bytes, as one word.
 inline std::uint32_t encodeGroup(const unsigned char* src)
@@ -72,17 +73,19 @@ std::optional<PropertyValue> parseInteger(QStringView text, QString* why)
     if (digits.startsWith(u"0x") || digits.startsWith(u"0X")) {
         const quint64 magnitude = digits.mid(2).toULongLong(&ok, 16);
         const quint64 limit = negative ? quint64{1} << 63 : (quint64{1} << 63) - 1;
-        ok = ok && magnitude <= limit && !digits.mid(2).startsWith(u'-') && !digits.mid(2).startsWith(u'+');
+        ok = ok && magnitude <= limit && !digits.mid(2).startsWith(u'-') &&
+             !digits.mid(2).startsWith(u'+');
         value = negative ? static_cast<qint64>(0 - magnitude) : static_cast<qint64>(magnitude);
     } else if (!digits.startsWith(u'-') && !digits.startsWith(u'+')) {
         value = trimmed.toLongLong(&ok, 10);
     }
     if (!ok) {
-        fail(why, QStringLiteral("\"%1\" is not an integer in the 64-bit range").arg(trimmed.left(40)));
+        fail(why,
+             QStringLiteral("\"%1\" is not an integer in the 64-bit range").arg(trimmed.left(40)));
         return std::nullopt;
     }
-    const bool fits32 =
-        value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max();
+    const bool fits32 = value >= std::numeric_limits<std::int32_t>::min() &&
+                        value <= std::numeric_limits<std::int32_t>::max();
     return PropertyValue::integer(value, fits32 ? NumberType::CFIndex : NumberType::SInt64);
 }
 
@@ -130,7 +133,8 @@ std::optional<QByteArray> decodeBase64(QByteArrayView text, QString* why)
         // Whole groups of four on one line: the common case, one check per group.
         if (count == 0 && pads == 0) {
             while (end - p >= 4) {
-                const std::uint32_t a = kDecode[p[0]], b = kDecode[p[1]], c = kDecode[p[2]], d = kDecode[p[3]];
+                const std::uint32_t a = kDecode[p[0]], b = kDecode[p[1]], c = kDecode[p[2]],
+                                    d = kDecode[p[3]];
                 if ((a | b | c | d) >= 64)
                     break;
                 const std::uint32_t v = (a << 18) | (b << 12) | (c << 6) | d;
@@ -201,7 +205,8 @@ void appendBase64Lines(QByteArray& out, QByteArrayView bytes, int indent, int li
             // A whole line: two groups per 64-bit store.
             int g = 0;
             for (; g + 2 <= groupsPerLine; g += 2) {
-                const std::uint64_t w = encodeGroup(src) | (std::uint64_t{encodeGroup(src + 3)} << 32);
+                const std::uint64_t w =
+                    encodeGroup(src) | (std::uint64_t{encodeGroup(src + 3)} << 32);
                 std::memcpy(dst, &w, 8);
                 dst += 8;
                 src += 6;
@@ -223,7 +228,8 @@ void appendBase64Lines(QByteArray& out, QByteArrayView bytes, int indent, int li
                 src += 3;
                 left -= 3;
             } else {
-                const std::uint32_t v = (std::uint32_t{src[0]} << 16) | (left == 2 ? std::uint32_t{src[1]} << 8 : 0);
+                const std::uint32_t v =
+                    (std::uint32_t{src[0]} << 16) | (left == 2 ? std::uint32_t{src[1]} << 8 : 0);
                 dst[0] = kAlphabet[v >> 18];
                 dst[1] = kAlphabet[(v >> 12) & 63];
                 dst[2] = left == 2 ? kAlphabet[(v >> 6) & 63] : '=';

@@ -58,7 +58,8 @@ private:
                 return token;
             case QXmlStreamReader::Characters:
                 if (!m_xml.isWhitespace()) {
-                    m_xml.raiseError(QStringLiteral("unexpected text \"%1\"").arg(m_xml.text().left(40)));
+                    m_xml.raiseError(
+                        QStringLiteral("unexpected text \"%1\"").arg(m_xml.text().left(40)));
                     return QXmlStreamReader::Invalid;
                 }
                 break;
@@ -116,7 +117,8 @@ private:
     std::optional<PropertyValue> readValue(int depth)
     {
         if (depth >= kMaxPropertyListDepth)
-            return fail(QStringLiteral("property list nested deeper than %1 levels").arg(kMaxPropertyListDepth));
+            return fail(QStringLiteral("property list nested deeper than %1 levels")
+                            .arg(kMaxPropertyListDepth));
         const QStringView name = m_xml.name();
         if (name == QLatin1String("dict"))
             return readDictionary(depth);
@@ -124,7 +126,8 @@ private:
             return readArray(depth);
         if (name == QLatin1String("string")) {
             auto text = leafText();
-            return text ? std::optional<PropertyValue>(PropertyValue(std::move(*text))) : std::nullopt;
+            return text ? std::optional<PropertyValue>(PropertyValue(std::move(*text)))
+                        : std::nullopt;
         }
         if (name == QLatin1String("integer"))
             return readInteger();
@@ -153,7 +156,8 @@ private:
             if (token != QXmlStreamReader::StartElement)
                 return std::nullopt;
             if (m_xml.name() != QLatin1String("key"))
-                return fail(QStringLiteral("expected <key> in a dictionary, found <%1>").arg(m_xml.name()));
+                return fail(
+                    QStringLiteral("expected <key> in a dictionary, found <%1>").arg(m_xml.name()));
             auto key = leafText();
             if (!key)
                 return std::nullopt;
@@ -184,8 +188,7 @@ private:
     }
 
     // Leaf conversions are shared with the fast path, so both accept the same.
-    template <typename Parse>
-    std::optional<PropertyValue> readLeaf(Parse parse)
+    template <typename Parse> std::optional<PropertyValue> readLeaf(Parse parse)
     {
         auto text = leafText();
         if (!text)
@@ -217,7 +220,8 @@ private:
 
 } // namespace
 
-std::optional<PropertyValue> plist::readWithFullReader(const QByteArray& xml, PropertyListError* error)
+std::optional<PropertyValue> plist::readWithFullReader(const QByteArray& xml,
+                                                       PropertyListError* error)
 {
     Reader reader(xml);
     return reader.run(error);

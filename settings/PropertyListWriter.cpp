@@ -99,9 +99,11 @@ private:
             else if (c == '\r')
                 replacement = "&#13;";
             else if (c < 0x20 && c != '\t' && c != '\n')
-                return refuse(QStringLiteral("%1 \"%2\" holds the control character U+%3, which XML cannot carry")
-                                  .arg(QLatin1String(what), text.left(40))
-                                  .arg(static_cast<unsigned>(c), 4, 16, QLatin1Char('0')));
+                return refuse(
+                    QStringLiteral(
+                        "%1 \"%2\" holds the control character U+%3, which XML cannot carry")
+                        .arg(QLatin1String(what), text.left(40))
+                        .arg(static_cast<unsigned>(c), 4, 16, QLatin1Char('0')));
             else if (c == 0xFFFE || c == 0xFFFF)
                 return refuse(QStringLiteral("%1 \"%2\" holds the non-character U+%3")
                                   .arg(QLatin1String(what), text.left(40))
@@ -111,9 +113,11 @@ private:
                     ++i;
                     continue;
                 }
-                return refuse(QStringLiteral("%1 \"%2\" holds a lone surrogate").arg(QLatin1String(what), text.left(40)));
+                return refuse(QStringLiteral("%1 \"%2\" holds a lone surrogate")
+                                  .arg(QLatin1String(what), text.left(40)));
             } else if (QChar::isLowSurrogate(c)) {
-                return refuse(QStringLiteral("%1 \"%2\" holds a lone surrogate").arg(QLatin1String(what), text.left(40)));
+                return refuse(QStringLiteral("%1 \"%2\" holds a lone surrogate")
+                                  .arg(QLatin1String(what), text.left(40)));
             }
             if (replacement) {
                 flush(i);
@@ -154,7 +158,8 @@ private:
     bool writeValue(const PropertyValue& value, int depth)
     {
         if (depth >= kMaxPropertyListDepth)
-            return refuse(QStringLiteral("the value is nested deeper than %1 levels").arg(kMaxPropertyListDepth));
+            return refuse(QStringLiteral("the value is nested deeper than %1 levels")
+                              .arg(kMaxPropertyListDepth));
         switch (value.kind()) {
         case PropertyValue::Kind::Null:
             return refuse(QStringLiteral("a property list cannot hold a null value"));
@@ -197,7 +202,8 @@ private:
         case PropertyValue::Kind::String:
             return writeLeaf("string", value.toString(), depth);
         case PropertyValue::Kind::Integer:
-            writeAsciiLeaf("integer", QByteArray::number(static_cast<qlonglong>(*value.toInteger())), depth);
+            writeAsciiLeaf("integer",
+                           QByteArray::number(static_cast<qlonglong>(*value.toInteger())), depth);
             return true;
         case PropertyValue::Kind::Real:
             writeAsciiLeaf("real", realText(*value.toReal()), depth);

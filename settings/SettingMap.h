@@ -25,22 +25,26 @@ inline constexpr std::int32_t kUnset = INT32_MIN;
 // One row of a setting map. A map is an array of rows ended by a terminator
 // row whose key is null and whose ticket value is 0. Menu items are numbered
 // from 1 in row order.
-struct _SettingMap {
-    const char* key;           // localisation key (also the PPD choice keyword where a menu mirrors one); "-" = separator
-    std::int32_t ticketValue;  // what the ticket stores; also the item's reference value
-    std::uint32_t commandId;   // the item's menu command, 0 for none
-    const char* featureKey;    // installed-option feature that gates the row, or null
+struct _SettingMap
+{
+    const char* key; // localisation key (also the PPD choice keyword where a menu mirrors one); "-"
+                     // = separator
+    std::int32_t ticketValue;   // what the ticket stores; also the item's reference value
+    std::uint32_t commandId;    // the item's menu command, 0 for none
+    const char* featureKey;     // installed-option feature that gates the row, or null
     std::uint8_t requiredState; // the row shows only when the feature's state equals this
 };
 
 // One row of a PPD choice map; ended by a row whose choice is null.
-struct PPDChoiceMap {
+struct PPDChoiceMap
+{
     const char* choice;
     std::int32_t ticketValue;
 };
 
 // One row of the main keyword map; ended by a row whose keyword is null.
-struct MainKeywordMap {
+struct MainKeywordMap
+{
     const char* mainKeyword;
     const PPDChoiceMap* choices;
 };

@@ -4,7 +4,8 @@ namespace orvan {
 
 namespace {
 
-struct VersionState {
+struct VersionState
+{
     bool overridden = false;
     std::optional<SystemVersion> version;
     std::optional<bool> on104;

@@ -7,7 +7,8 @@
 
 namespace orvan {
 
-struct SystemVersion {
+struct SystemVersion
+{
     int major = 0;
     int minor = 0;
     int bugFix = 0;

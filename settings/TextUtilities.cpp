@@ -72,7 +72,8 @@ QString XMLCreateStringByUnescapingEntities(const QString& text, const PropertyV
         }
         if (i + 1 < n && text.at(i + 1) == QLatin1Char('#')) {
             qsizetype j = i + 2;
-            const bool hex = j < n && (text.at(j) == QLatin1Char('x') || text.at(j) == QLatin1Char('X'));
+            const bool hex =
+                j < n && (text.at(j) == QLatin1Char('x') || text.at(j) == QLatin1Char('X'));
             if (hex)
                 ++j;
             char32_t code = 0;

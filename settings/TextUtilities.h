@@ -16,6 +16,7 @@ int CountDigits(long n);
 // string; its entries win where names clash) and stays as written when the
 // name is unknown. After a numeric reference's digits, characters up to the
 // next semicolon (or the end) are consumed. Other text is copied unchanged.
-QString XMLCreateStringByUnescapingEntities(const QString& text, const PropertyValue* extraEntities = nullptr);
+QString XMLCreateStringByUnescapingEntities(const QString& text,
+                                            const PropertyValue* extraEntities = nullptr);
 
 } // namespace orvan

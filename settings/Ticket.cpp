@@ -115,7 +115,8 @@ Ticket& Ticket::ensureSubTicket(const QString& key)
 
 bool operator==(const Ticket& a, const Ticket& b)
 {
-    if (a.m_items != b.m_items || a.m_ppd != b.m_ppd || a.m_subTickets.size() != b.m_subTickets.size())
+    if (a.m_items != b.m_items || a.m_ppd != b.m_ppd ||
+        a.m_subTickets.size() != b.m_subTickets.size())
         return false;
     for (const auto& [key, sub] : a.m_subTickets) {
         const Ticket* other = b.subTicket(key);

@@ -19,7 +19,8 @@ inline const QString kShellClient = QStringLiteral("Q");
 
 // One ticket item: its value, the client (creator) string of the write and
 // whether it is locked against later writes.
-struct TicketItem {
+struct TicketItem
+{
     PropertyValue value;
     QString client;
     bool locked = false;
@@ -41,7 +42,8 @@ public:
 
     // Sets an item, replacing an unlocked one. kBadParameter for an empty key
     // or a Null value, kTicketItemLocked when the present item is locked.
-    Status setItem(const QString& client, const QString& key, PropertyValue value, bool locked = false);
+    Status setItem(const QString& client, const QString& key, PropertyValue value,
+                   bool locked = false);
     const TicketItem* item(const QString& key) const;
     // The item's value, or nullptr when absent.
     const PropertyValue* value(const QString& key) const;
@@ -54,7 +56,8 @@ public:
     // item is absent or of another kind.
     std::optional<QString> string(const QString& key) const;
     std::optional<bool> boolean(const QString& key) const;
-    std::optional<std::int64_t> integer(const QString& key, NumberType type = NumberType::CFIndex) const;
+    std::optional<std::int64_t> integer(const QString& key,
+                                        NumberType type = NumberType::CFIndex) const;
     std::optional<double> real(const QString& key) const;
     const PropertyValue* dictionary(const QString& key) const;
     const PropertyValue* array(const QString& key) const;

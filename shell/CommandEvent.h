@@ -12,7 +12,10 @@ namespace orvan {
 class CommandEvent : public QEvent
 {
 public:
-    explicit CommandEvent(std::uint32_t command) : QEvent(eventType()), m_command(command) { setAccepted(false); }
+    explicit CommandEvent(std::uint32_t command) : QEvent(eventType()), m_command(command)
+    {
+        setAccepted(false);
+    }
     std::uint32_t command() const { return m_command; }
     // Set by the handler that consumed the command (the dialog stays open).
     bool consumed() const { return m_consumed; }

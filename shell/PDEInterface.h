@@ -22,7 +22,8 @@ class QWidget;
 namespace orvan {
 
 // A 16-byte identifier, written as 8-4-4-4-12 hexadecimal digits.
-struct Uuid {
+struct Uuid
+{
     std::array<std::uint8_t, 16> bytes{};
 
     static constexpr std::optional<Uuid> parse(std::string_view text);
@@ -46,7 +47,8 @@ constexpr std::optional<Uuid> Uuid::parse(std::string_view text)
             v = c - 'a' + 10;
         if (v < 0 || nibbles >= 32)
             return std::nullopt;
-        id.bytes[nibbles / 2] = static_cast<std::uint8_t>(id.bytes[nibbles / 2] | (nibbles % 2 ? v : v << 4));
+        id.bytes[nibbles / 2] =
+            static_cast<std::uint8_t>(id.bytes[nibbles / 2] | (nibbles % 2 ? v : v << 4));
         ++nibbles;
     }
     if (nibbles != 32)
@@ -59,13 +61,15 @@ inline constexpr Uuid kPDEPlugInType = *Uuid::parse("BDB091F4-E57F-11D3-B5CC-005
 // The factory: registered as in use for every live instance.
 inline constexpr Uuid kOrvanFactoryID = *Uuid::parse("60CAE14B-780C-425C-B60C-1826B9CA2C3B");
 // The dialog-extension interface.
-inline constexpr Uuid kDialogExtensionInterfaceID = *Uuid::parse("A996FD7E-B738-11D3-8519-0050E4603277");
+inline constexpr Uuid kDialogExtensionInterfaceID =
+    *Uuid::parse("A996FD7E-B738-11D3-8519-0050E4603277");
 // The generic base interface.
 inline constexpr Uuid kBaseInterfaceID = *Uuid::parse("00000000-0000-0000-C000-000000000046");
 
 using PDEContext = void*;
 
-struct PDEAPIVersion {
+struct PDEAPIVersion
+{
     std::uint32_t buildMajor;
     std::uint32_t buildMinor;
     std::uint32_t baseMajor;
@@ -76,7 +80,8 @@ struct PDEInterfaceObject;
 
 // The ten operations, in this order. Titles and values of GetSummaryText are
 // arrays of strings that each panel creates when still Null and appends to.
-struct PDEInterfaceTable {
+struct PDEInterfaceTable
+{
     Status (*Retain)(PDEInterfaceObject* self);
     Status (*Release)(PDEInterfaceObject** self);
     Status (*GetAPIVersion)(PDEInterfaceObject* self, PDEAPIVersion* version);
@@ -84,8 +89,8 @@ struct PDEInterfaceTable {
                      std::uint32_t* maxWidth, std::uint32_t* maxHeight);
     // parent is the pane to build the controls in; null when the dialog runs
     // headless, in which case the panel keeps its values in its model only.
-    Status (*Initialize)(PDEContext context, std::uint32_t* flags, void* hostReference, QWidget* parent,
-                         PrintSession* session);
+    Status (*Initialize)(PDEContext context, std::uint32_t* flags, void* hostReference,
+                         QWidget* parent, PrintSession* session);
     // direction false: write the tickets from the panel; true: set the panel from the tickets.
     Status (*Sync)(PDEContext context, PrintSession* session, bool direction);
     Status (*GetSummaryText)(PDEContext context, PropertyValue* titles, PropertyValue* values);
@@ -95,20 +100,23 @@ struct PDEInterfaceTable {
 };
 
 // Every interface object starts with a pointer to its table.
-struct PDEInterfaceObject {
+struct PDEInterfaceObject
+{
     const PDEInterfaceTable* table;
 };
 
 // The base interface of the factory instance: a reserved word, then
 // query-interface, add-reference and release.
 struct PlugInInstance;
-struct PlugInInstanceTable {
+struct PlugInInstanceTable
+{
     void* reserved;
     Status (*QueryInterface)(PlugInInstance* self, Uuid interfaceID, void** object);
     std::uint32_t (*AddRef)(PlugInInstance* self);
     std::uint32_t (*Release)(PlugInInstance* self);
 };
-struct PlugInInstance {
+struct PlugInInstance
+{
     const PlugInInstanceTable* table;
 };
 

@@ -28,8 +28,7 @@ const QString kShellTitleKey = QStringLiteral("PDE Shell");
 constexpr std::uint32_t kShellMaxWidth = 540;
 constexpr std::uint32_t kShellMaxHeight = 491;
 
-template <typename Visit>
-void forEachPanel(PDEShellContext* context, Visit visit)
+template <typename Visit> void forEachPanel(PDEShellContext* context, Visit visit)
 {
     for (LoadedPanel& panel : context->panels)
         if (panel.tabNumber != -1)
@@ -67,8 +66,9 @@ Status ShellProlog(const Bundle* bundle, const char* const* names, const PanelRe
         *maxWidth = kShellMaxWidth;
     if (maxHeight)
         *maxHeight = kShellMaxHeight;
-    shell->title = bundle ? bundle->localizedString(kShellTitleKey, kShellTitleKey, kDefaultStringTable)
-                          : kShellTitleKey;
+    shell->title =
+        bundle ? bundle->localizedString(kShellTitleKey, kShellTitleKey, kDefaultStringTable)
+               : kShellTitleKey;
     if (title)
         *title = shell->title;
     if (kind)
@@ -79,7 +79,8 @@ Status ShellProlog(const Bundle* bundle, const char* const* names, const PanelRe
     return kNoError;
 }
 
-void LoadBuiltInPanels(PDEShellContext* context, const char* const* names, const PanelResolver& resolve)
+void LoadBuiltInPanels(PDEShellContext* context, const char* const* names,
+                       const PanelResolver& resolve)
 {
     if (!context || !context->bundle || !names || !names[0])
         return;
@@ -94,7 +95,8 @@ void LoadBuiltInPanels(PDEShellContext* context, const char* const* names, const
         PDEContext panelContext = nullptr;
         std::uint32_t creator = 0, width = 0, height = 0;
         QString kind, title;
-        if (panel->table->Prolog(&panelContext, &creator, &kind, &title, &width, &height) != kNoError)
+        if (panel->table->Prolog(&panelContext, &creator, &kind, &title, &width, &height) !=
+            kNoError)
             continue;
         if (context->panels.empty())
             context->panels.reserve(10);
@@ -140,11 +142,14 @@ Status ShellSync(PDEShellContext* context, PrintSession* session, bool direction
         return PropertyValue::boolean(printSettings->containsItem(QString::fromLatin1(key)));
     };
     PropertyValue specialPageOptions = PropertyValue::dictionary();
-    specialPageOptions.insert(QStringLiteral("QPIFOptionCovers"),
-                              PropertyValue::boolean(*has("com.orvan.print.SpecialPages.FrontCover").toBool() ||
-                                                     *has("com.orvan.print.SpecialPages.BackCover").toBool()));
-    specialPageOptions.insert(QStringLiteral("QPIFOptionExceptions"), has("com.orvan.print.SpecialPages.ExceptionList"));
-    specialPageOptions.insert(QStringLiteral("QPIFOptionInserts"), has("com.orvan.print.SpecialPages.InsertList"));
+    specialPageOptions.insert(
+        QStringLiteral("QPIFOptionCovers"),
+        PropertyValue::boolean(*has("com.orvan.print.SpecialPages.FrontCover").toBool() ||
+                               *has("com.orvan.print.SpecialPages.BackCover").toBool()));
+    specialPageOptions.insert(QStringLiteral("QPIFOptionExceptions"),
+                              has("com.orvan.print.SpecialPages.ExceptionList"));
+    specialPageOptions.insert(QStringLiteral("QPIFOptionInserts"),
+                              has("com.orvan.print.SpecialPages.InsertList"));
     return result;
 }
 
@@ -157,7 +162,9 @@ Status ShellGetSummaryText(PDEShellContext* context, PropertyValue* titles, Prop
         *titles = PropertyValue();
     if (values)
         *values = PropertyValue();
-    forEachPanel(context, [&](LoadedPanel& panel) { panel.table.GetSummaryText(panel.context, titles, values); });
+    forEachPanel(context, [&](LoadedPanel& panel) {
+        panel.table.GetSummaryText(panel.context, titles, values);
+    });
     return result;
 }
 
@@ -176,7 +183,8 @@ Status ShellTerminate(PDEShellContext* context, Status status)
     const Status result = OrvanPDETerminate();
     if (!context)
         return kMissingContext;
-    forEachPanel(context, [status](LoadedPanel& panel) { panel.table.Terminate(panel.context, status); });
+    forEachPanel(context,
+                 [status](LoadedPanel& panel) { panel.table.Terminate(panel.context, status); });
     if (g_shellContext == context)
         g_shellContext = nullptr;
     delete context;
@@ -220,7 +228,8 @@ std::int32_t previousTabNumber(const PDEShellContext* context)
     return previous < 1 ? context->panelCount : previous;
 }
 
-bool ShellHandleControlHit(PDEShellContext* context, std::int32_t controlID, std::int32_t tabControlValue)
+bool ShellHandleControlHit(PDEShellContext* context, std::int32_t controlID,
+                           std::int32_t tabControlValue)
 {
     if (!context)
         return false;
@@ -273,10 +282,12 @@ OkGuardDecision ShellOkGuard(PDEShellContext* context)
         const QString message = QStringLiteral("Invalid Secure Print Passcode Message");
         Alert alert;
         alert.level = AlertLevel::Caution;
-        alert.title = bundle ? bundle->localizedString(header, header, kDefaultStringTable) : header;
-        alert.message = (bundle ? bundle->localizedString(message, message, kDefaultStringTable) : message)
-                            .arg(kSecurePrintPasscodeMinDigits)
-                            .arg(kSecurePrintPasscodeMaxDigits);
+        alert.title =
+            bundle ? bundle->localizedString(header, header, kDefaultStringTable) : header;
+        alert.message =
+            (bundle ? bundle->localizedString(message, message, kDefaultStringTable) : message)
+                .arg(kSecurePrintPasscodeMinDigits)
+                .arg(kSecurePrintPasscodeMaxDigits);
         ShowAlert(alert);
         return OkGuardDecision::RefusedSecurePrintPasscode;
     }

@@ -53,12 +53,13 @@ public:
 };
 
 // One loaded panel, in tab order.
-struct LoadedPanel {
+struct LoadedPanel
+{
     PDEInterfaceTable table{}; // a private copy of the panel's operations
     PDEContext context = nullptr;
     QString title;
     QString kind;
-    QWidget* pane = nullptr;   // set when the shell opens
+    QWidget* pane = nullptr;    // set when the shell opens
     std::int32_t tabNumber = 0; // 1-based; -1 marks a record to skip
 };
 
@@ -76,7 +77,8 @@ public:
 // Finds a panel's interface function by its exported name; null when absent.
 using PanelResolver = std::function<PanelInterfaceFunction(const char* name)>;
 
-struct PDEShellContext {
+struct PDEShellContext
+{
     const Bundle* bundle = nullptr;
     QString title;
     std::vector<LoadedPanel> panels;
@@ -109,7 +111,8 @@ Status ShellProlog(const Bundle* bundle, const char* const* names, const PanelRe
 // Loads panels while the name at position (panels loaded so far) is not null.
 // A panel that fails is tried again at once: every listed panel is part of the
 // plug-in itself, so the loader does not skip one.
-void LoadBuiltInPanels(PDEShellContext* context, const char* const* names, const PanelResolver& resolve);
+void LoadBuiltInPanels(PDEShellContext* context, const char* const* names,
+                       const PanelResolver& resolve);
 
 // Sync in one direction: every panel in tab order, the one on screen last;
 // writing also puts the shell's own items into the print-settings ticket.
@@ -133,19 +136,21 @@ std::int32_t previousTabNumber(const PDEShellContext* context);
 inline constexpr std::int32_t kShellTabControlID = 16;
 inline constexpr std::int32_t kShellPreviousButtonID = 1966;
 inline constexpr std::int32_t kShellNextButtonID = 1967;
-inline constexpr std::uint32_t kCommandOK = 0x6F6B2020;       // 'ok  '
-inline constexpr std::uint32_t kCommandHelp = 0x68656C70;     // 'help'
-inline constexpr std::uint32_t kCommandNextPanel = 0x51467570; // 'QFup'
+inline constexpr std::uint32_t kCommandOK = 0x6F6B2020;            // 'ok  '
+inline constexpr std::uint32_t kCommandHelp = 0x68656C70;          // 'help'
+inline constexpr std::uint32_t kCommandNextPanel = 0x51467570;     // 'QFup'
 inline constexpr std::uint32_t kCommandPreviousPanel = 0x5146646E; // 'QFdn'
 
 // A control hit on a shell control: true when handled (the tab changed or
 // previous/next ran), false when the event passes on (the tab already shown,
 // an unknown control).
-bool ShellHandleControlHit(PDEShellContext* context, std::int32_t controlID, std::int32_t tabControlValue);
+bool ShellHandleControlHit(PDEShellContext* context, std::int32_t controlID,
+                           std::int32_t tabControlValue);
 
 // What OK does.
-enum class OkGuardDecision {
-    Print,                     // pass the event on: the job prints
+enum class OkGuardDecision
+{
+    Print,                      // pass the event on: the job prints
     RefusedSecurePrintPasscode, // the passcode notice was shown; the dialog stays open
     OpenedFaxSetup,             // the fax setup ran instead of printing
 };

@@ -18,7 +18,8 @@ namespace orvan {
 class PanelBase : public PanelContextBase
 {
 public:
-    struct Description {
+    struct Description
+    {
         QString kind;
         QString title;
         std::uint32_t creator = kPaneKindCreator;
@@ -64,8 +65,8 @@ inline Status apiVersion(PDEInterfaceObject*, PDEAPIVersion* version)
 }
 
 template <class Panel>
-Status prolog(PDEContext* context, std::uint32_t* creator, QString* kind, QString* title, std::uint32_t* maxWidth,
-              std::uint32_t* maxHeight)
+Status prolog(PDEContext* context, std::uint32_t* creator, QString* kind, QString* title,
+              std::uint32_t* maxWidth, std::uint32_t* maxHeight)
 {
     return GuardedStatus("panel Prolog", [&] {
         if (!context)
@@ -89,13 +90,15 @@ Status prolog(PDEContext* context, std::uint32_t* creator, QString* kind, QStrin
     });
 }
 
-inline Status initialize(PDEContext context, std::uint32_t* flags, void*, QWidget* parent, PrintSession* session)
+inline Status initialize(PDEContext context, std::uint32_t* flags, void*, QWidget* parent,
+                         PrintSession* session)
 {
     if (!context)
         return kMissingContext;
     if (flags)
         *flags = 0;
-    return GuardedStatus("panel Initialize", [&] { return panelOf(context)->initialize(parent, session); });
+    return GuardedStatus("panel Initialize",
+                         [&] { return panelOf(context)->initialize(parent, session); });
 }
 inline Status sync(PDEContext context, PrintSession* session, bool direction)
 {
@@ -107,15 +110,18 @@ inline Status summaryText(PDEContext context, PropertyValue* titles, PropertyVal
 {
     if (!context)
         return kMissingContext;
-    return GuardedStatus("panel GetSummaryText", [&] { return panelOf(context)->summaryText(titles, values); });
+    return GuardedStatus("panel GetSummaryText",
+                         [&] { return panelOf(context)->summaryText(titles, values); });
 }
 inline Status open(PDEContext context)
 {
-    return context ? GuardedStatus("panel Open", [&] { return panelOf(context)->open(); }) : kMissingContext;
+    return context ? GuardedStatus("panel Open", [&] { return panelOf(context)->open(); })
+                   : kMissingContext;
 }
 inline Status close(PDEContext context)
 {
-    return context ? GuardedStatus("panel Close", [&] { return panelOf(context)->close(); }) : kMissingContext;
+    return context ? GuardedStatus("panel Close", [&] { return panelOf(context)->close(); })
+                   : kMissingContext;
 }
 // The panel is deleted even when its own terminate throws.
 inline Status terminate(PDEContext context, Status status)
@@ -123,7 +129,8 @@ inline Status terminate(PDEContext context, Status status)
     if (!context)
         return kMissingContext;
     PanelBase* panel = panelOf(context);
-    const Status result = GuardedStatus("panel Terminate", [&] { return panel->terminate(status); });
+    const Status result =
+        GuardedStatus("panel Terminate", [&] { return panel->terminate(status); });
     delete panel;
     return result;
 }
@@ -131,13 +138,12 @@ inline Status terminate(PDEContext context, Status status)
 } // namespace panel_table
 
 // The ten-slot table of a panel class, one per class.
-template <class Panel>
-const PDEInterfaceTable* PanelInterfaceTable()
+template <class Panel> const PDEInterfaceTable* PanelInterfaceTable()
 {
     static const PDEInterfaceTable table{
-        panel_table::retain,      panel_table::release,     panel_table::apiVersion,
+        panel_table::retain,        panel_table::release,    panel_table::apiVersion,
         panel_table::prolog<Panel>, panel_table::initialize, panel_table::sync,
-        panel_table::summaryText, panel_table::open,        panel_table::close,
+        panel_table::summaryText,   panel_table::open,       panel_table::close,
         panel_table::terminate,
     };
     return &table;
@@ -145,8 +151,7 @@ const PDEInterfaceTable* PanelInterfaceTable()
 
 // The interface object a Get...PanelInterface function hands out: one static
 // object per panel class, whose retain and release do nothing.
-template <class Panel>
-Status GetPanelInterface(PDEInterfaceObject** panel)
+template <class Panel> Status GetPanelInterface(PDEInterfaceObject** panel)
 {
     if (!panel)
         return kBadParameter;

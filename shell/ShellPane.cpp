@@ -15,7 +15,8 @@ namespace orvan {
 
 namespace {
 
-QIcon bundleIcon(const Bundle* bundle, const QString& name, QStyle::StandardPixmap fallback, const QWidget* widget)
+QIcon bundleIcon(const Bundle* bundle, const QString& name, QStyle::StandardPixmap fallback,
+                 const QWidget* widget)
 {
     const QString path = bundle ? bundle->resourcePath(name) : QString();
     return path.isEmpty() ? widget->style()->standardIcon(fallback) : QIcon(path);
@@ -24,8 +25,9 @@ QIcon bundleIcon(const Bundle* bundle, const QString& name, QStyle::StandardPixm
 } // namespace
 
 ShellPane::ShellPane(PDEShellContext* context, QWidget* parent)
-    : QWidget(parent), m_context(context), m_tabs(new QTabBar(this)), m_container(new QStackedWidget(this)),
-      m_previous(new QToolButton(this)), m_next(new QToolButton(this)), m_help(new QToolButton(this))
+    : QWidget(parent), m_context(context), m_tabs(new QTabBar(this)),
+      m_container(new QStackedWidget(this)), m_previous(new QToolButton(this)),
+      m_next(new QToolButton(this)), m_help(new QToolButton(this))
 {
     setObjectName(QStringLiteral("PDEShell"));
     m_tabs->setObjectName(QStringLiteral("ShellTabs"));
@@ -36,8 +38,10 @@ ShellPane::ShellPane(PDEShellContext* context, QWidget* parent)
     m_previous->setObjectName(QStringLiteral("PreviousPanelButton"));
     m_next->setObjectName(QStringLiteral("NextPanelButton"));
     m_help->setObjectName(QStringLiteral("ShellHelpButton"));
-    m_previous->setIcon(bundleIcon(context->bundle, QStringLiteral("ButtonGraphic_MacUp.png"), QStyle::SP_ArrowBack, this));
-    m_next->setIcon(bundleIcon(context->bundle, QStringLiteral("ButtonGraphic_MacDown.png"), QStyle::SP_ArrowForward, this));
+    m_previous->setIcon(bundleIcon(context->bundle, QStringLiteral("ButtonGraphic_MacUp.png"),
+                                   QStyle::SP_ArrowBack, this));
+    m_next->setIcon(bundleIcon(context->bundle, QStringLiteral("ButtonGraphic_MacDown.png"),
+                               QStyle::SP_ArrowForward, this));
     m_previous->setToolTip(tr("Previous panel"));
     m_next->setToolTip(tr("Next panel"));
     m_help->setText(QStringLiteral("?"));
@@ -69,8 +73,10 @@ ShellPane::ShellPane(PDEShellContext* context, QWidget* parent)
     });
     connect(m_previous, &QToolButton::clicked, this,
             [this] { ShellHandleControlHit(m_context, kShellPreviousButtonID, 0); });
-    connect(m_next, &QToolButton::clicked, this, [this] { ShellHandleControlHit(m_context, kShellNextButtonID, 0); });
-    connect(m_help, &QToolButton::clicked, this, [this] { DisplayHelp(m_context->bundle, {}, {}); });
+    connect(m_next, &QToolButton::clicked, this,
+            [this] { ShellHandleControlHit(m_context, kShellNextButtonID, 0); });
+    connect(m_help, &QToolButton::clicked, this,
+            [this] { DisplayHelp(m_context->bundle, {}, {}); });
 
     m_context->view = this;
     // The dialog's commands reach the shell through its window.

@@ -11,17 +11,24 @@
 
 namespace orvan {
 
-inline const QString kRotateBooklet180Key = QStringLiteral("com.orvan.print.RotateBooklet180Degrees");
-inline const QString kControllerFamilyKey = QStringLiteral("com.orvan.print.ControllerInformation.ControllerFamily");
-inline const QString kControllerVersionKey = QStringLiteral("com.orvan.print.ControllerInformation.ControllerVersion");
-inline const QString kClientUserNameKey = QStringLiteral("com.orvan.print.ClientInformation.UserName");
-inline const QString kClientComputerNameKey = QStringLiteral("com.orvan.print.ClientInformation.ComputerName");
-inline const QString kClientIPAddressKey = QStringLiteral("com.orvan.print.ClientInformation.IPAddress");
+inline const QString kRotateBooklet180Key =
+    QStringLiteral("com.orvan.print.RotateBooklet180Degrees");
+inline const QString kControllerFamilyKey =
+    QStringLiteral("com.orvan.print.ControllerInformation.ControllerFamily");
+inline const QString kControllerVersionKey =
+    QStringLiteral("com.orvan.print.ControllerInformation.ControllerVersion");
+inline const QString kClientUserNameKey =
+    QStringLiteral("com.orvan.print.ClientInformation.UserName");
+inline const QString kClientComputerNameKey =
+    QStringLiteral("com.orvan.print.ClientInformation.ComputerName");
+inline const QString kClientIPAddressKey =
+    QStringLiteral("com.orvan.print.ClientInformation.IPAddress");
 inline const QString kControllerFamily = QStringLiteral("Meridian");
 inline const QString kControllerVersion = QStringLiteral("5.0");
 
 // The user, computer and address the job comes from; nullopt where unknown.
-struct ClientFacts {
+struct ClientFacts
+{
     std::optional<QString> userName;
     std::optional<QString> computerName;
     std::optional<QString> ipAddress;

@@ -13,7 +13,6 @@
 
 namespace orvan {
 
-
 // Size value of a custom size (width and length then count).
 inline constexpr std::int32_t kCustomPageSize = 75;
 inline constexpr std::int32_t kLetterPageSize = 1;

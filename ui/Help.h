@@ -24,8 +24,8 @@ using HelpUrlOpener = std::function<bool(const QUrl&)>;
 // previous one.
 HelpUrlOpener SetHelpUrlOpener(HelpUrlOpener opener);
 
-// The URL DisplayHelp opens, or kBadParameter / kFileNotFound (the page or the book's folder does not exist). The book
-// is <Resources>/<CFBundleHelpBookFolder, "help" when absent>/. A page is a
+// The URL DisplayHelp opens, or kBadParameter / kFileNotFound (the page or the book's folder does
+// not exist). The book is <Resources>/<CFBundleHelpBookFolder, "help" when absent>/. A page is a
 // path inside the book. With no page, an anchor is looked up in the book's
 // pages (an element with that id or name; the start page is searched first)
 // and the start page "index.html" is opened when no page has it.

@@ -1,2 +1,4 @@
 // Keeps the widgets library non-empty until the first view lands.
-namespace orvan { int widgetsLibraryAnchor = 0; }
+namespace orvan {
+int widgetsLibraryAnchor = 0;
+}

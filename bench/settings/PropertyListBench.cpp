@@ -24,7 +24,8 @@ PropertyValue watermarkLikeValue()
     PropertyValue names = PropertyValue::array();
     for (int i = 0; i < 2000; ++i) {
         PropertyValue record = PropertyValue::dictionary();
-        record.insert("textString", PropertyValue(QStringLiteral("Watermark number %1 & <more>").arg(i)));
+        record.insert("textString",
+                      PropertyValue(QStringLiteral("Watermark number %1 & <more>").arg(i)));
         record.insert("fontName", PropertyValue("ArialMT"));
         record.insert("angle", PropertyValue::integer(45));
         record.insert("density", PropertyValue::integer(25));

@@ -15,7 +15,8 @@ namespace {
 void save(const std::string& folder, const std::string& name, const Bytes& font)
 {
     std::ofstream(folder + "/" + name, std::ios::binary)
-        .write(reinterpret_cast<const char*>(font.data()), static_cast<std::streamsize>(font.size()));
+        .write(reinterpret_cast<const char*>(font.data()),
+               static_cast<std::streamsize>(font.size()));
 }
 
 } // namespace
@@ -33,7 +34,8 @@ int main(int argc, char** argv)
     FontSpec named;
     named.glyphs = 6;
     named.post = post2({0, 3, 36, 258, 259, 258}, {"Euro", "a.alt"});
-    save(folder, "named-long-loca", build(glyphTables(named, loca({0, 4, 8, 12, 16, 20, 24}), 24, 0x42)));
+    save(folder, "named-long-loca",
+         build(glyphTables(named, loca({0, 4, 8, 12, 16, 20, 24}), 24, 0x42)));
 
     FontSpec shortLoca;
     shortLoca.glyphs = 3;
@@ -62,9 +64,18 @@ int main(int argc, char** argv)
     const std::size_t windowsLength = strings.size();
     for (std::uint8_t c : {0x53, 0x65, 0x65, 0x64, 0x8E}) // "Seed" and a Mac Roman e-acute
         strings.push_back(c);
-    const Field records[] = {{6, 3, 2},  {8, 1, 2},  {10, 0x0409, 2}, {12, 6, 2}, {14, std::uint32_t(windowsLength), 2},
-                             {16, 0, 2}, {18, 1, 2}, {20, 0, 2},      {22, 0, 2}, {24, 6, 2},
-                             {26, 5, 2}, {28, std::uint32_t(windowsLength), 2}};
+    const Field records[] = {{6, 3, 2},
+                             {8, 1, 2},
+                             {10, 0x0409, 2},
+                             {12, 6, 2},
+                             {14, std::uint32_t(windowsLength), 2},
+                             {16, 0, 2},
+                             {18, 1, 2},
+                             {20, 0, 2},
+                             {22, 0, 2},
+                             {24, 6, 2},
+                             {26, 5, 2},
+                             {28, std::uint32_t(windowsLength), 2}};
     for (const Field& field : records)
         put(name, field.at, field.value, field.width);
     name.insert(name.end(), strings.begin(), strings.end());

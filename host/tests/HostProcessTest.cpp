@@ -227,7 +227,7 @@ TEST_F(OrvanPrintProcess, UsageErrorsGiveOneLineAndStatusTwo)
         {{"--dump-ticket", "--ticket", "/dev/zero"}, "larger than"},
         {{"--dump-ticket", "--printer", "NoSuchQueue"}, "NoSuchQueue"}, // and no server
         {{"--dump-ticket", path("none.pdf")}, "none.pdf"},
-        {{"--print"}, "--print"},                          // nothing to print
+        {{"--print"}, "--print"}, // nothing to print
         {{"--print", "--dump-ticket", path("none.pdf")}, "--print"},
         {{"--dump-ticket", "--preset", "Nope"}, "no preset named Nope"},
         {{}, "display"},

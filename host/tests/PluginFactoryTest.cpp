@@ -53,10 +53,11 @@ TEST_F(PluginFactory, EveryListedPanelFunctionIsExported)
         ASSERT_EQ(function(&panel), kNoError);
         ASSERT_TRUE(panel && panel->table);
         const PDEInterfaceTable& t = *panel->table;
-        for (const void* slot : {(const void*)t.Retain, (const void*)t.Release, (const void*)t.GetAPIVersion,
-                                 (const void*)t.Prolog, (const void*)t.Initialize, (const void*)t.Sync,
-                                 (const void*)t.GetSummaryText, (const void*)t.Open, (const void*)t.Close,
-                                 (const void*)t.Terminate})
+        for (const void* slot :
+             {(const void*)t.Retain, (const void*)t.Release, (const void*)t.GetAPIVersion,
+              (const void*)t.Prolog, (const void*)t.Initialize, (const void*)t.Sync,
+              (const void*)t.GetSummaryText, (const void*)t.Open, (const void*)t.Close,
+              (const void*)t.Terminate})
             EXPECT_TRUE(slot);
     }
 }

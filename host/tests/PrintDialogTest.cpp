@@ -2,8 +2,8 @@
 // the session, when it refuses and stays open, and a job sent through it to a
 // private cupsd.
 #include "host/PrintDialog.h"
-#include "host/Presets.h"
 #include "host/JobSubmission.h"
+#include "host/Presets.h"
 #include "host/PreviewPane.h"
 #include "host/WatermarkStampSource.h"
 #include "host/tests/HostTestSupport.h"

@@ -54,7 +54,9 @@ protected:
     }
     QStringList asideFiles() const
     {
-        return QFileInfo(preferencesPath()).dir().entryList({kJobNotesPreferencesFileName + ".unreadable-*"});
+        return QFileInfo(preferencesPath())
+            .dir()
+            .entryList({kJobNotesPreferencesFileName + ".unreadable-*"});
     }
     QComboBox* box(const char* name) const { return m_pane.findChild<QComboBox*>(name); }
     QLineEdit* field(const char* name) const { return m_pane.findChild<QLineEdit*>(name); }

@@ -11,11 +11,11 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QTimer>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QTabBar>
+#include <QTimer>
 
 namespace orvan {
 namespace {

@@ -27,7 +27,8 @@ TEST(DictionaryAccess, SetAndGetNumberByType)
 {
     PropertyValue dict = PropertyValue::dictionary();
     CFDictionarySetNumber(&dict, "JobType", NumberType::SInt32, std::int64_t{6});
-    CFDictionarySetNumber(&dict, "DelayedPrintTime", NumberType::SInt64, std::int64_t{5'000'000'000});
+    CFDictionarySetNumber(&dict, "DelayedPrintTime", NumberType::SInt64,
+                          std::int64_t{5'000'000'000});
     CFDictionarySetNumber(&dict, "Gutter", NumberType::Float32, 0.25);
     EXPECT_EQ(dict.find("JobType")->numberType(), NumberType::SInt32);
     EXPECT_EQ(dict.find("DelayedPrintTime")->numberType(), NumberType::SInt64);

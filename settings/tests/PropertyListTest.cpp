@@ -28,8 +28,8 @@ PropertyValue roundTrip(const PropertyValue& value)
 
 QByteArray wrap(const char* body)
 {
-    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n") + body +
-           "\n</plist>\n";
+    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n") +
+           body + "\n</plist>\n";
 }
 
 } // namespace
@@ -37,11 +37,14 @@ QByteArray wrap(const char* body)
 TEST(PropertyList, EveryKindRoundTrips)
 {
     PropertyValue root = PropertyValue::dictionary();
-    root.insert("string", PropertyValue(QString::fromUtf8("Grüße, 日本語, emoji \U0001F5A8 & <tags> \"q\" 'a'")));
+    root.insert("string", PropertyValue(QString::fromUtf8(
+                              "Grüße, 日本語, emoji \U0001F5A8 & <tags> \"q\" 'a'")));
     root.insert("empty string", PropertyValue(QString()));
     root.insert("negative", PropertyValue::integer(-2147483648LL));
-    root.insert("int64 max", PropertyValue::integer(std::numeric_limits<std::int64_t>::max(), NumberType::SInt64));
-    root.insert("int64 min", PropertyValue::integer(std::numeric_limits<std::int64_t>::min(), NumberType::SInt64));
+    root.insert("int64 max", PropertyValue::integer(std::numeric_limits<std::int64_t>::max(),
+                                                    NumberType::SInt64));
+    root.insert("int64 min", PropertyValue::integer(std::numeric_limits<std::int64_t>::min(),
+                                                    NumberType::SInt64));
     root.insert("true", PropertyValue::boolean(true));
     root.insert("false", PropertyValue::boolean(false));
     QByteArray bytes;
@@ -49,7 +52,8 @@ TEST(PropertyList, EveryKindRoundTrips)
         bytes.append(static_cast<char>(i * 37));
     root.insert("data", PropertyValue::data(bytes));
     root.insert("empty data", PropertyValue::data(QByteArray()));
-    root.insert("date", PropertyValue::date(QDateTime(QDate(2026, 11, 22), QTime(9, 30, 5), Qt::UTC)));
+    root.insert("date",
+                PropertyValue::date(QDateTime(QDate(2026, 11, 22), QTime(9, 30, 5), Qt::UTC)));
     root.insert("empty dict", PropertyValue::dictionary());
     root.insert("empty array", PropertyValue::array());
     PropertyValue nested = PropertyValue::array();
@@ -62,7 +66,8 @@ TEST(PropertyList, EveryKindRoundTrips)
 
     const PropertyValue back = roundTrip(root);
     EXPECT_EQ(back, root);
-    EXPECT_EQ(back.find("int64 min")->integerAs(NumberType::SInt64), std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(back.find("int64 min")->integerAs(NumberType::SInt64),
+              std::numeric_limits<std::int64_t>::min());
     EXPECT_EQ(back.find("negative")->numberType(), NumberType::CFIndex);
     EXPECT_EQ(back.find("int64 max")->numberType(), NumberType::SInt64);
 }
@@ -72,12 +77,19 @@ TEST(PropertyList, RealsRoundTripExactly)
     std::mt19937_64 random(42);
     std::uniform_real_distribution<double> any(-1e300, 1e300);
     PropertyValue list = PropertyValue::array();
-    const double fixed[] = {0.1, 1.0 / 3.0, -0.0, 5e-324, std::numeric_limits<double>::max(),
-                            std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), 72.0};
+    const double fixed[] = {0.1,
+                            1.0 / 3.0,
+                            -0.0,
+                            5e-324,
+                            std::numeric_limits<double>::max(),
+                            std::numeric_limits<double>::infinity(),
+                            -std::numeric_limits<double>::infinity(),
+                            72.0};
     for (double d : fixed)
         list.append(PropertyValue::real(d));
     for (int i = 0; i < 500; ++i)
-        list.append(PropertyValue::real(any(random) * std::pow(10.0, -static_cast<int>(random() % 300))));
+        list.append(
+            PropertyValue::real(any(random) * std::pow(10.0, -static_cast<int>(random() % 300))));
     const PropertyValue back = roundTrip(list);
     ASSERT_EQ(back.size(), list.size());
     for (std::size_t i = 0; i < list.size(); ++i) {
@@ -110,14 +122,16 @@ TEST(PropertyList, WrittenFileReadsBackAndRewritesByteIdentical)
 
 TEST(PropertyList, RefusesWhatXmlCannotCarry)
 {
-    struct Row {
+    struct Row
+    {
         const char* what;
         PropertyValue value;
     };
     PropertyValue badKey = PropertyValue::dictionary();
     badKey.insert(QString("bell\x07"), PropertyValue("x"));
     const Row rows[] = {
-        {"control character", PropertyValue(QString("a\x01" "b"))},
+        {"control character", PropertyValue(QString("a\x01"
+                                                    "b"))},
         {"NUL", PropertyValue(QString(QChar(0)))},
         {"lone high surrogate", PropertyValue(QString(QChar(0xD800)))},
         {"lone low surrogate", PropertyValue(QString(QChar(0xDC00)) + "x")},
@@ -135,7 +149,8 @@ TEST(PropertyList, RefusesWhatXmlCannotCarry)
 
 TEST(PropertyList, BrokenInputSaysWhatAndWhere)
 {
-    struct Row {
+    struct Row
+    {
         QByteArray xml;
         const char* expectInMessage;
         qint64 line;
@@ -151,7 +166,8 @@ TEST(PropertyList, BrokenInputSaysWhatAndWhere)
         {wrap("<true>yes</true>"), "", 3},
         {wrap("<string>a</string><string>b</string>"), "more than one value", 3},
         {wrap("<array><string>x</array>"), "", 3},
-        {QByteArray("<?xml version=\"1.0\"?>\n<plist version=\"1.0\">\n<dict>\n<key>a</key>\n<string>trunc"),
+        {QByteArray("<?xml version=\"1.0\"?>\n<plist "
+                    "version=\"1.0\">\n<dict>\n<key>a</key>\n<string>trunc"),
          "", 5},
         {QByteArray(), "", 1},
         {QByteArray("not xml at all"), "", 1},
@@ -178,8 +194,9 @@ TEST(PropertyList, DeepNestingIsRefusedNotACrash)
 
 TEST(PropertyList, ReadsEntitiesHexIntegersAndBareValues)
 {
-    const auto v = readPropertyList(wrap("<dict><key>a&amp;b</key><string>&#x41;&lt;</string>"
-                                         "<key>h</key><integer>0x1F</integer><key>n</key><integer> -5 </integer></dict>"));
+    const auto v = readPropertyList(
+        wrap("<dict><key>a&amp;b</key><string>&#x41;&lt;</string>"
+             "<key>h</key><integer>0x1F</integer><key>n</key><integer> -5 </integer></dict>"));
     ASSERT_TRUE(v);
     EXPECT_EQ(v->find("a&b")->toString(), "A<");
     EXPECT_EQ(v->find("h")->toInteger(), 31);
@@ -193,19 +210,27 @@ TEST(PropertyList, FastPathAgreesWithTheFullReaderOrStandsAside)
 {
     // Each document is read by both paths; where the fast path answers, the
     // full reader must answer the same. Some must go to the full reader.
-    struct Row {
+    struct Row
+    {
         QByteArray xml;
         bool fastHandles;
     };
     const Row rows[] = {
         {wrap("<dict><key>a</key><string>x &amp; y &#x263A; &#65;</string></dict>"), true},
-        {wrap("<array><data>AQID</data><data>\n\tAQ==\n</data><data/><string/><dict/><array/></array>"), true},
-        {wrap("<dict><key>n</key><integer>-9223372036854775808</integer><key>r</key><real>-0.0</real></dict>"), true},
-        {"<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><string>Grüße</string></plist>", true},
-        {wrap("<string>line\r\nbreak</string>"), false},   // line-end folding
+        {wrap("<array><data>AQID</data><data>\n\tAQ==\n</data><data/><string/><dict/><array/></"
+              "array>"),
+         true},
+        {wrap("<dict><key>n</key><integer>-9223372036854775808</integer><key>r</key><real>-0.0</"
+              "real></dict>"),
+         true},
+        {"<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist "
+         "version=\"1.0\"><string>Grüße</string></plist>",
+         true},
+        {wrap("<string>line\r\nbreak</string>"), false},     // line-end folding
         {wrap("<!-- note --><string>x</string>"), false},    // comment
         {wrap("<string><![CDATA[<raw>]]></string>"), false}, // CDATA
-        {"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist><string>caf\xE9</string></plist>", false},
+        {"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist><string>caf\xE9</string></plist>",
+         false},
         {wrap("<true></true>"), false},
     };
     for (const Row& row : rows) {
@@ -218,7 +243,8 @@ TEST(PropertyList, FastPathAgreesWithTheFullReaderOrStandsAside)
         EXPECT_EQ(*readPropertyList(row.xml), *full);
     }
     EXPECT_EQ(readPropertyList(wrap("<string>line\r\nbreak</string>"))->toString(), "line\nbreak");
-    EXPECT_EQ(readPropertyList("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist><string>caf\xE9</string></plist>")
+    EXPECT_EQ(readPropertyList("<?xml version=\"1.0\" "
+                               "encoding=\"ISO-8859-1\"?><plist><string>caf\xE9</string></plist>")
                   ->toString(),
               QString::fromUtf8("café"));
 }

@@ -9,12 +9,14 @@ using namespace orvan;
 
 TEST(PropertyValue, NumbersRememberTheirType)
 {
-    struct Row {
+    struct Row
+    {
         NumberType type;
         std::int64_t value;
     };
-    for (const Row& row : {Row{NumberType::SInt32, -7}, Row{NumberType::CFIndex, 14},
-                           Row{NumberType::SInt64, std::int64_t{1} << 40}, Row{NumberType::Int, 9}}) {
+    for (const Row& row :
+         {Row{NumberType::SInt32, -7}, Row{NumberType::CFIndex, 14},
+          Row{NumberType::SInt64, std::int64_t{1} << 40}, Row{NumberType::Int, 9}}) {
         const PropertyValue v = PropertyValue::integer(row.value, row.type);
         EXPECT_EQ(v.kind(), PropertyValue::Kind::Integer);
         EXPECT_EQ(v.numberType(), row.type);
@@ -45,7 +47,8 @@ TEST(PropertyValue, ConversionsAreExactOrRefused)
     EXPECT_FALSE(PropertyValue::real(0.1).realAs(NumberType::Float32)); // 0.1 has no exact float
     EXPECT_EQ(PropertyValue::real(3.0).integerAs(NumberType::SInt8), 3);
 
-    const PropertyValue huge = PropertyValue::integer(std::numeric_limits<std::int64_t>::max(), NumberType::SInt64);
+    const PropertyValue huge =
+        PropertyValue::integer(std::numeric_limits<std::int64_t>::max(), NumberType::SInt64);
     EXPECT_FALSE(huge.realAs(NumberType::Float64));
     EXPECT_FALSE(PropertyValue::real(9223372036854775808.0).integerAs(NumberType::SInt64));
     EXPECT_FALSE(PropertyValue("12").integerAs(NumberType::SInt32));
@@ -53,7 +56,8 @@ TEST(PropertyValue, ConversionsAreExactOrRefused)
 
 TEST(PropertyValue, EqualityIsByValueNotNumberType)
 {
-    EXPECT_EQ(PropertyValue::integer(3, NumberType::SInt32), PropertyValue::integer(3, NumberType::CFIndex));
+    EXPECT_EQ(PropertyValue::integer(3, NumberType::SInt32),
+              PropertyValue::integer(3, NumberType::CFIndex));
     EXPECT_EQ(PropertyValue::integer(3), PropertyValue::real(3.0));
     EXPECT_NE(PropertyValue::integer(3), PropertyValue("3"));
     EXPECT_NE(PropertyValue::boolean(true), PropertyValue::integer(1));

@@ -1,5 +1,5 @@
-#include "settings/PrintSession.h"
 #include "settings/Ticket.h"
+#include "settings/PrintSession.h"
 
 #include <gtest/gtest.h>
 
@@ -9,13 +9,15 @@ TEST(Ticket, ItemsKeepClientAndLockedFlag)
 {
     Ticket ticket;
     ASSERT_EQ(ticket.setItem(kShellClient, "com.orvan.print.A", PropertyValue("x")), kNoError);
-    ASSERT_EQ(ticket.setItem(kPanelClient, "com.orvan.print.B", PropertyValue::integer(4), true), kNoError);
+    ASSERT_EQ(ticket.setItem(kPanelClient, "com.orvan.print.B", PropertyValue::integer(4), true),
+              kNoError);
     EXPECT_EQ(ticket.item("com.orvan.print.A")->client, "Q");
     EXPECT_FALSE(ticket.item("com.orvan.print.A")->locked);
     EXPECT_TRUE(ticket.item("com.orvan.print.B")->locked);
 
     // A locked item can be neither replaced nor removed.
-    EXPECT_EQ(ticket.setItem(kPanelClient, "com.orvan.print.B", PropertyValue::integer(5)), kTicketItemLocked);
+    EXPECT_EQ(ticket.setItem(kPanelClient, "com.orvan.print.B", PropertyValue::integer(5)),
+              kTicketItemLocked);
     EXPECT_EQ(ticket.releaseItem("com.orvan.print.B"), kTicketItemLocked);
     EXPECT_EQ(ticket.integer("com.orvan.print.B"), 4);
 
@@ -44,10 +46,12 @@ TEST(Ticket, CopiesIncludePpdDictionaryAndSubTickets)
 {
     Ticket ticket;
     ticket.ppdDictionary().insert("Jog", PropertyValue("EndOfSet"));
-    ticket.ensureSubTicket("com.apple.print.PaperInfoTicket").setItem(kPanelClient, "k", PropertyValue("v"));
+    ticket.ensureSubTicket("com.apple.print.PaperInfoTicket")
+        .setItem(kPanelClient, "k", PropertyValue("v"));
     Ticket copy = ticket;
     EXPECT_EQ(copy, ticket);
-    copy.ensureSubTicket("com.apple.print.PaperInfoTicket").setItem(kPanelClient, "k", PropertyValue("w"));
+    copy.ensureSubTicket("com.apple.print.PaperInfoTicket")
+        .setItem(kPanelClient, "k", PropertyValue("w"));
     EXPECT_NE(copy, ticket);
     EXPECT_EQ(ticket.subTicket("com.apple.print.PaperInfoTicket")->string("k"), "v");
 }

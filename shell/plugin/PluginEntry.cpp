@@ -19,14 +19,16 @@ using namespace orvan;
 
 namespace {
 
-struct FactoryInstance {
+struct FactoryInstance
+{
     const PlugInInstanceTable* table;
     PlugInInstanceTable inlineTable;
     Uuid factoryID;
     std::uint32_t refCount;
 };
 
-struct ShellInterfaceObject {
+struct ShellInterfaceObject
+{
     const PDEInterfaceTable* table;
     std::int32_t refCount;
 };
@@ -90,8 +92,15 @@ Status queryInterface(PlugInInstance* self, Uuid interfaceID, void** object)
     }
     if (interfaceID == kDialogExtensionInterfaceID) {
         auto* table = new (std::nothrow) PDEInterfaceTable{
-            shellRetain,   shellRelease,       shellAPIVersion, ShellPrologOperation, ShellInitializeOperation,
-            ShellSyncOperation, ShellGetSummaryTextOperation, ShellOpenOperation, ShellCloseOperation,
+            shellRetain,
+            shellRelease,
+            shellAPIVersion,
+            ShellPrologOperation,
+            ShellInitializeOperation,
+            ShellSyncOperation,
+            ShellGetSummaryTextOperation,
+            ShellOpenOperation,
+            ShellCloseOperation,
             ShellTerminateOperation,
         };
         auto* shell = table ? new (std::nothrow) ShellInterfaceObject{table, 1} : nullptr;
@@ -109,7 +118,8 @@ Status queryInterface(PlugInInstance* self, Uuid interfaceID, void** object)
 
 Status factoryQueryInterface(PlugInInstance* self, Uuid interfaceID, void** object)
 {
-    return GuardedStatus("QueryInterface", [&] { return queryInterface(self, interfaceID, object); });
+    return GuardedStatus("QueryInterface",
+                         [&] { return queryInterface(self, interfaceID, object); });
 }
 
 // The folder that holds this library.
@@ -125,7 +135,8 @@ QString pluginFolder()
 
 extern "C" {
 
-__attribute__((visibility("default"))) PlugInInstance* OrvanPDEPluginFactory(void*, const Uuid* requestedType)
+__attribute__((visibility("default"))) PlugInInstance*
+OrvanPDEPluginFactory(void*, const Uuid* requestedType)
 {
     return GuardedCall<PlugInInstance*>("the plug-in factory", nullptr, [&]() -> PlugInInstance* {
         if (!requestedType || *requestedType != kPDEPlugInType)
@@ -133,7 +144,8 @@ __attribute__((visibility("default"))) PlugInInstance* OrvanPDEPluginFactory(voi
         auto* instance = new (std::nothrow) FactoryInstance;
         if (!instance)
             return nullptr;
-        instance->inlineTable = PlugInInstanceTable{nullptr, factoryQueryInterface, factoryAddRef, factoryRelease};
+        instance->inlineTable =
+            PlugInInstanceTable{nullptr, factoryQueryInterface, factoryAddRef, factoryRelease};
         instance->table = &instance->inlineTable;
         instance->factoryID = kOrvanFactoryID;
         instance->refCount = 1;
@@ -148,7 +160,8 @@ __attribute__((visibility("default"))) const Bundle* GetPDEBundle()
     return GuardedCall<const Bundle*>("GetPDEBundle", nullptr, [] {
         static const std::unique_ptr<Bundle> bundle = [] {
             auto opened = std::make_unique<Bundle>(pluginFolder());
-            return opened->identifier() == kBundleIdentifier ? std::move(opened) : std::unique_ptr<Bundle>();
+            return opened->identifier() == kBundleIdentifier ? std::move(opened)
+                                                             : std::unique_ptr<Bundle>();
         }();
         return static_cast<const Bundle*>(bundle.get());
     });
@@ -158,8 +171,9 @@ __attribute__((visibility("default"))) const Bundle* GetPDEBundle()
 // (the session argument is not used), so a panel can force a full sync.
 __attribute__((visibility("default"))) Status PDESync(PrintSession*, bool direction)
 {
-    return GuardedStatus("PDESync",
-                         [&] { return ShellSync(CurrentShellContext(), GetCurrentPrintSession(), direction); });
+    return GuardedStatus("PDESync", [&] {
+        return ShellSync(CurrentShellContext(), GetCurrentPrintSession(), direction);
+    });
 }
 
 } // extern "C"

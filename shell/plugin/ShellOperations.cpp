@@ -33,10 +33,12 @@ PanelInterfaceFunction resolvePanel(const char* name)
         static const OwnedHandle<void, dlclose> colorOptions = [] {
             const QString library =
                 QStringLiteral("%1/ColorOptions.so").arg(QLatin1String(kColorOptionsBundlePath));
-            return OwnedHandle<void, dlclose>(
-                dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
+            return OwnedHandle<void, dlclose>(dlopen(QFile::encodeName(library).constData(),
+                                                     RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
         }();
-        return colorOptions ? reinterpret_cast<PanelInterfaceFunction>(dlsym(colorOptions.get(), name)) : nullptr;
+        return colorOptions
+                   ? reinterpret_cast<PanelInterfaceFunction>(dlsym(colorOptions.get(), name))
+                   : nullptr;
     }
     Dl_info info{};
     if (!dladdr(reinterpret_cast<void*>(&resolvePanel), &info) || !info.dli_fname)
@@ -52,24 +54,25 @@ Status RegisterMyHelpBook(const Bundle* bundle)
 {
     if (!bundle || bundle->path().isEmpty())
         return kNoError;
-    return QFileInfo(bundle->resourcesPath() + QStringLiteral("/help")).isDir() ? kNoError : kFileNotFound;
+    return QFileInfo(bundle->resourcesPath() + QStringLiteral("/help")).isDir() ? kNoError
+                                                                                : kFileNotFound;
 }
 
-Status ShellPrologOperation(PDEContext* context, std::uint32_t* creator, QString* kind, QString* title,
-                            std::uint32_t* maxWidth, std::uint32_t* maxHeight)
+Status ShellPrologOperation(PDEContext* context, std::uint32_t* creator, QString* kind,
+                            QString* title, std::uint32_t* maxWidth, std::uint32_t* maxHeight)
 {
     return GuardedStatus("Prolog", [&] {
         PDEShellContext* shell = nullptr;
-        const Status status = ShellProlog(GetPDEBundle(), _PanelInterfaces, resolvePanel, &shell, creator, kind,
-                                          title, maxWidth, maxHeight);
+        const Status status = ShellProlog(GetPDEBundle(), _PanelInterfaces, resolvePanel, &shell,
+                                          creator, kind, title, maxWidth, maxHeight);
         if (context)
             *context = shell;
         return status;
     });
 }
 
-Status ShellInitializeOperation(PDEContext context, std::uint32_t* flags, void* hostReference, QWidget* parent,
-                                PrintSession* session)
+Status ShellInitializeOperation(PDEContext context, std::uint32_t* flags, void* hostReference,
+                                QWidget* parent, PrintSession* session)
 {
     return GuardedStatus("Initialize", [&] {
         OrvanPDEInitialize(session);
@@ -81,7 +84,8 @@ Status ShellInitializeOperation(PDEContext context, std::uint32_t* flags, void* 
             *flags = 0;
 
         Ticket* printSettings = nullptr;
-        if (GetTicketFromSession(session, kPrintSettingsTicketKey, &printSettings) != kNoError || !printSettings)
+        if (GetTicketFromSession(session, kPrintSettingsTicketKey, &printSettings) != kNoError ||
+            !printSettings)
             std::fputs("Initialize()::GetTicketFromSession() failed.\n", stderr);
 
         if (ppd_file_t* ppd = PPDGetCurrent(); ppd && PPDIsOrvanPrinter(ppd)) {
@@ -112,9 +116,11 @@ Status ShellSyncOperation(PDEContext context, PrintSession* session, bool direct
     return GuardedStatus("Sync", [&] { return ShellSync(shellOf(context), session, direction); });
 }
 
-Status ShellGetSummaryTextOperation(PDEContext context, PropertyValue* titles, PropertyValue* values)
+Status ShellGetSummaryTextOperation(PDEContext context, PropertyValue* titles,
+                                    PropertyValue* values)
 {
-    return GuardedStatus("GetSummaryText", [&] { return ShellGetSummaryText(shellOf(context), titles, values); });
+    return GuardedStatus("GetSummaryText",
+                         [&] { return ShellGetSummaryText(shellOf(context), titles, values); });
 }
 
 Status ShellOpenOperation(PDEContext context)

@@ -15,12 +15,13 @@ namespace orvan {
 // its help folder is missing.
 Status RegisterMyHelpBook(const Bundle* bundle);
 
-Status ShellPrologOperation(PDEContext* context, std::uint32_t* creator, QString* kind, QString* title,
-                            std::uint32_t* maxWidth, std::uint32_t* maxHeight);
-Status ShellInitializeOperation(PDEContext context, std::uint32_t* flags, void* hostReference, QWidget* parent,
-                                PrintSession* session);
+Status ShellPrologOperation(PDEContext* context, std::uint32_t* creator, QString* kind,
+                            QString* title, std::uint32_t* maxWidth, std::uint32_t* maxHeight);
+Status ShellInitializeOperation(PDEContext context, std::uint32_t* flags, void* hostReference,
+                                QWidget* parent, PrintSession* session);
 Status ShellSyncOperation(PDEContext context, PrintSession* session, bool direction);
-Status ShellGetSummaryTextOperation(PDEContext context, PropertyValue* titles, PropertyValue* values);
+Status ShellGetSummaryTextOperation(PDEContext context, PropertyValue* titles,
+                                    PropertyValue* values);
 Status ShellOpenOperation(PDEContext context);
 Status ShellCloseOperation(PDEContext context);
 Status ShellTerminateOperation(PDEContext context, Status status);

@@ -18,7 +18,8 @@ using namespace orvan;
 
 namespace {
 
-struct Call {
+struct Call
+{
     int panel;
     std::string operation;
     bool direction = false;
@@ -31,7 +32,8 @@ std::vector<Call>& calls()
 }
 
 // What the first panel tells the OK guard.
-struct GuardState : PrintGuardSource {
+struct GuardState : PrintGuardSource
+{
     std::int32_t type = 1;
     QString passcode;
     int recipients = 0;
@@ -47,8 +49,7 @@ GuardState& guard()
     return state;
 }
 
-template <int N>
-class TestPanel : public PanelBase
+template <int N> class TestPanel : public PanelBase
 {
 public:
     Description describe() const override
@@ -96,9 +97,13 @@ public:
     }
 };
 
-struct RecordingView : ShellView {
+struct RecordingView : ShellView
+{
     std::vector<std::string> events;
-    void setContainerVisible(bool visible) override { events.push_back(visible ? "show container" : "hide container"); }
+    void setContainerVisible(bool visible) override
+    {
+        events.push_back(visible ? "show container" : "hide container");
+    }
     void showPane(const LoadedPanel& panel, bool shown) override
     {
         if (shown)
@@ -114,10 +119,8 @@ const char* const kPanelsWithAThrower[] = {"P1", "Thrower", "P3", nullptr};
 PanelInterfaceFunction resolveTestPanel(const char* name)
 {
     static const std::map<std::string, PanelInterfaceFunction> panels = {
-        {"P1", GetPanelInterface<TestPanel<1>>},
-        {"P2", GetPanelInterface<TestPanel<2>>},
-        {"P3", GetPanelInterface<TestPanel<3>>},
-        {"P4", GetPanelInterface<TestPanel<4>>},
+        {"P1", GetPanelInterface<TestPanel<1>>},       {"P2", GetPanelInterface<TestPanel<2>>},
+        {"P3", GetPanelInterface<TestPanel<3>>},       {"P4", GetPanelInterface<TestPanel<4>>},
         {"Thrower", GetPanelInterface<ThrowingPanel>},
     };
     const auto it = panels.find(name);
@@ -131,11 +134,14 @@ protected:
     {
         calls().clear();
         guard() = GuardState{};
-        ASSERT_EQ(ShellProlog(&m_bundle, names, resolve, &m_shell, &m_creator, &m_kind, &m_title, &m_width, &m_height),
+        ASSERT_EQ(ShellProlog(&m_bundle, names, resolve, &m_shell, &m_creator, &m_kind, &m_title,
+                              &m_width, &m_height),
                   kNoError);
         m_shell->session = &m_session;
         m_shell->view = &m_view;
-        SetClientFactsSourceForTesting([] { return ClientFacts{QStringLiteral("ada"), QStringLiteral("Desk"), {}}; });
+        SetClientFactsSourceForTesting([] {
+            return ClientFacts{QStringLiteral("ada"), QStringLiteral("Desk"), {}};
+        });
     }
     void TearDown() override
     {
@@ -198,10 +204,12 @@ TEST_F(ShellTest, SyncRunsThePanelOnScreenLast)
     start(kThreePanels);
     _lastTabIndex() = 2;
     ASSERT_EQ(ShellSync(m_shell, &m_session, true), kNoError);
-    EXPECT_EQ(syncCalls(), (std::vector<Call>{{1, "sync", true}, {3, "sync", true}, {2, "sync", true}}));
+    EXPECT_EQ(syncCalls(),
+              (std::vector<Call>{{1, "sync", true}, {3, "sync", true}, {2, "sync", true}}));
     calls().clear();
     ASSERT_EQ(ShellSync(m_shell, &m_session, false), kNoError);
-    EXPECT_EQ(syncCalls(), (std::vector<Call>{{1, "sync", false}, {3, "sync", false}, {2, "sync", false}}));
+    EXPECT_EQ(syncCalls(),
+              (std::vector<Call>{{1, "sync", false}, {3, "sync", false}, {2, "sync", false}}));
 }
 
 TEST_F(ShellTest, AnExceptionInAPanelBecomesAStatusAndTheOtherPanelsStillSync)
@@ -214,10 +222,13 @@ TEST_F(ShellTest, AnExceptionInAPanelBecomesAStatusAndTheOtherPanelsStillSync)
     _lastTabIndex() = 1;
     EXPECT_EQ(ShellSync(m_shell, &m_session, false), kNoError);
     const std::string diagnostics = ::testing::internal::GetCapturedStderr();
-    EXPECT_NE(diagnostics.find("panel Sync failed: the ticket went away"), std::string::npos) << diagnostics;
-    EXPECT_NE(diagnostics.find("panel Sync failed: out of memory"), std::string::npos) << diagnostics;
+    EXPECT_NE(diagnostics.find("panel Sync failed: the ticket went away"), std::string::npos)
+        << diagnostics;
+    EXPECT_NE(diagnostics.find("panel Sync failed: out of memory"), std::string::npos)
+        << diagnostics;
     EXPECT_EQ(syncCalls(), (std::vector<Call>{{3, "sync", false}, {1, "sync", false}}));
-    EXPECT_TRUE(m_session.printSettings().containsItem(kControllerFamilyKey)) << "the shell's own items still written";
+    EXPECT_TRUE(m_session.printSettings().containsItem(kControllerFamilyKey))
+        << "the shell's own items still written";
 }
 
 TEST_F(ShellTest, SkippedRecordsTakeNoPartAndMissingSessionIsRefused)
@@ -237,7 +248,8 @@ TEST_F(ShellTest, SkippedRecordsTakeNoPartAndMissingSessionIsRefused)
 TEST_F(ShellTest, ReadingSyncWritesNothingAndWritingSyncWritesTheShellItems)
 {
     start(kThreePanels);
-    m_session.printSettings().setItem(kPanelClient, kRotateBooklet180Key, PropertyValue::integer(1));
+    m_session.printSettings().setItem(kPanelClient, kRotateBooklet180Key,
+                                      PropertyValue::integer(1));
     const Ticket before = m_session.printSettings();
     ShellSync(m_shell, &m_session, true);
     EXPECT_EQ(m_session.printSettings(), before);
@@ -259,9 +271,12 @@ TEST_F(ShellTest, SwitchingTabsSyncsTheLeavingPanelThenTheOthers)
     start(kFourPanels);
     _lastTabIndex() = 2;
     EXPECT_TRUE(ShellHandleControlHit(m_shell, kShellTabControlID, 3));
-    EXPECT_EQ(syncCalls(), (std::vector<Call>{{2, "sync", false}, {1, "sync", true}, {3, "sync", true}, {4, "sync", true}}));
+    EXPECT_EQ(syncCalls(),
+              (std::vector<Call>{
+                  {2, "sync", false}, {1, "sync", true}, {3, "sync", true}, {4, "sync", true}}));
     EXPECT_EQ(_lastTabIndex(), 3);
-    EXPECT_EQ(m_view.events, (std::vector<std::string>{"hide container", "show 3", "show container"}));
+    EXPECT_EQ(m_view.events,
+              (std::vector<std::string>{"hide container", "show 3", "show container"}));
 
     // The tab already shown: the event passes on and nothing syncs.
     calls().clear();
@@ -274,13 +289,16 @@ TEST_F(ShellTest, SwitchingTabsSyncsTheLeavingPanelThenTheOthers)
 TEST_F(ShellTest, NextAndPreviousWrapAround)
 {
     start(kFourPanels);
-    struct Row {
+    struct Row
+    {
         std::int32_t from;
         std::int32_t control;
         std::int32_t to;
     };
-    const Row rows[] = {{4, kShellNextButtonID, 1}, {1, kShellPreviousButtonID, 4},
-                        {2, kShellNextButtonID, 3}, {3, kShellPreviousButtonID, 2}};
+    const Row rows[] = {{4, kShellNextButtonID, 1},
+                        {1, kShellPreviousButtonID, 4},
+                        {2, kShellNextButtonID, 3},
+                        {3, kShellPreviousButtonID, 2}};
     for (const Row& row : rows) {
         _lastTabIndex() = row.from;
         m_view.events.clear();
@@ -344,8 +362,12 @@ TEST_F(ShellTest, TerminateEndsEveryPanelAndClearsTheProcessWideState)
     for (const Call& c : calls())
         if (c.operation == "close" || c.operation == "terminate")
             ends.push_back(c);
-    EXPECT_EQ(ends, (std::vector<Call>{{1, "close"}, {2, "close"}, {3, "close"},
-                                       {1, "terminate"}, {2, "terminate"}, {3, "terminate"}}));
+    EXPECT_EQ(ends, (std::vector<Call>{{1, "close"},
+                                       {2, "close"},
+                                       {3, "close"},
+                                       {1, "terminate"},
+                                       {2, "terminate"},
+                                       {3, "terminate"}}));
     EXPECT_EQ(CurrentShellContext(), nullptr);
     EXPECT_EQ(GetCurrentPrintSession(), nullptr);
 }

@@ -6,7 +6,8 @@ using namespace orvan;
 
 TEST(ShellTicketItems, ClientItemsFollowTheFacts)
 {
-    struct Row {
+    struct Row
+    {
         const char* what;
         ClientFacts facts;
         bool user, computer, address;
@@ -14,7 +15,11 @@ TEST(ShellTicketItems, ClientItemsFollowTheFacts)
     const QString japanese = QString::fromUtf8("\u7530\u4E2D\u306EMac");
     const Row rows[] = {
         {"all known", {"ada", "Ada's Desk", "10.1.2.3"}, true, true, true},
-        {"Latin-1 up to U+00FE", {"ada", QString::fromUtf8("Büro-Rechner þ"), {}}, true, true, false},
+        {"Latin-1 up to U+00FE",
+         {"ada", QString::fromUtf8("Büro-Rechner þ"), {}},
+         true,
+         true,
+         false},
         {"a character above U+00FE", {"ada", japanese, "10.1.2.3"}, true, false, true},
         {"U+00FF is outside the range", {"ada", QString::fromUtf8("ÿ"), {}}, true, false, false},
         {"a control character", {"ada", QStringLiteral("a\tb"), {}}, true, false, false},
