@@ -1,12 +1,3 @@
-# Under the sanitizers a leak fails the test; lsan.supp names what other
-# libraries keep for the life of the process.
-if(ORVAN_SANITIZE)
-    set(ORVAN_TEST_SANITIZER_OPTIONS
-        "ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0")
-else()
-    set(ORVAN_TEST_SANITIZER_OPTIONS "ASAN_OPTIONS=detect_leaks=0")
-endif()
-
 # orvan_add_test(NAME <name> SOURCES <files...> [LIBS <targets...>] [APPLICATION widgets|core])
 #
 # APPLICATION gives the program one QApplication (widgets, offscreen) or one
@@ -34,6 +25,6 @@ function(orvan_add_test)
     add_dependencies(${ARG_NAME} orvan_bundle)
     gtest_discover_tests(${ARG_NAME}
         DISCOVERY_MODE PRE_TEST
-        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${ORVAN_TEST_SANITIZER_OPTIONS}"
+        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
         DISCOVERY_TIMEOUT 60)
 endfunction()

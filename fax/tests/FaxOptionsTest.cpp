@@ -137,21 +137,21 @@ TEST(FaxOptionsTest, SetupRefusesWhatCannotBeSent)
     const QString longest(kMaxDialingStringLength, u'5');
     const struct
     {
-        const char* number;
+        QString number;
         QString prefix;
         bool refused;
     } rows[] = {
         {"", {}, true},
         {"fax me", {}, true}, // nothing to dial
-        {qPrintable(longest), {}, false},
-        {qPrintable(longest), "9,", true}, // the prefix counts
+        {longest, {}, false},
+        {longest, "9,", true}, // the prefix counts
         {"555 0100", "9,", false},
     };
     for (const auto& row : rows) {
         model.controls().dialingPrefixOn = !row.prefix.isEmpty();
         model.controls().dialingPrefix = row.prefix;
         const auto typed = LANFaxSetupModel::recipientFromTypedName("Bo", row.number);
-        EXPECT_EQ(model.checkRecipient(*typed).has_value(), row.refused) << row.number;
+        EXPECT_EQ(model.checkRecipient(*typed).has_value(), row.refused) << row.number.toStdString();
     }
     model.controls().dialingPrefixOn = false;
 

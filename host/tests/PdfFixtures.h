@@ -62,7 +62,8 @@ inline bool WritePdfDocument(const QString& path, int pages, QSizeF size = kA4Po
 {
     QPDF pdf;
     BuildPdf(pdf, pages, size, [size](int page) { return MarkedPageContent(page, size); });
-    QPDFWriter writer(pdf, path.toLocal8Bit().constData());
+    const QByteArray fileName = QFile::encodeName(path); // the writer keeps the pointer
+    QPDFWriter writer(pdf, fileName.constData());
     if (userPassword)
         writer.setR6EncryptionParameters(userPassword, "owner", true, true, true, true, true, true,
                                          qpdf_r3p_full, true);
@@ -75,7 +76,8 @@ inline bool WriteEmptyPdf(const QString& path)
 {
     QPDF pdf;
     pdf.emptyPDF();
-    QPDFWriter writer(pdf, path.toLocal8Bit().constData());
+    const QByteArray fileName = QFile::encodeName(path); // the writer keeps the pointer
+    QPDFWriter writer(pdf, fileName.constData());
     writer.write();
     return true;
 }
