@@ -27,8 +27,9 @@ TEST(PPDChoiceValues, FirstMatchingRowWinsBothWays)
         EXPECT_EQ(PPDTicketValueForChoice(keyword, choice), value) << keyword << " " << choice;
 
     const std::tuple<const char*, std::int32_t, const char*> toChoice[] = {
-        {"OutputBin", 5, "Upper"},   {"MediaType", 43, "CardStock"}, {"QVImageQuality", -1, "Lighten1"},
-        {"OutputBin", 99, nullptr}, {"NoSuchKeyword", 1, nullptr},
+        {"OutputBin", 5, "Upper"},          {"MediaType", 43, "CardStock"},
+        {"QVImageQuality", -1, "Lighten1"}, {"OutputBin", 99, nullptr},
+        {"NoSuchKeyword", 1, nullptr},
     };
     for (const auto& [keyword, value, choice] : toChoice)
         EXPECT_STREQ(PPDChoiceForTicketValue(keyword, value), choice) << keyword << " " << value;
@@ -67,7 +68,8 @@ TEST(PPDTicketChoices, TicketChoiceOrThePPDsDefault)
         if (ticketChoice)
             PPDSetCurrentChoice(&ticket, keyword, ticketChoice);
         PPDSetCurrentChoice(&ticket, keyword, QString()); // changes nothing
-        EXPECT_EQ(PPDCopyCurrentChoice(&ticket, keyword), ticketChoice ? std::optional<QString>(ticketChoice) : std::nullopt);
+        EXPECT_EQ(PPDCopyCurrentChoice(&ticket, keyword),
+                  ticketChoice ? std::optional<QString>(ticketChoice) : std::nullopt);
         EXPECT_FALSE(ticket.containsItem(keyword));
         std::int32_t value = 1234;
         EXPECT_EQ(PPDGetTicketValueForChoiceOrDefault(ppd.get(), &ticket, keyword, &value), found);

@@ -55,9 +55,12 @@ TEST(SamplePrinterPpd, DefaultsAreConflictFreeAndFinishingNeedsTheFinisher)
     EXPECT_EQ(PpdMarkOption(ppd.get(), "StapleLocation", "DualLandscape"), 0) << "with it";
     EXPECT_EQ(PpdMarkOption(ppd.get(), "StapleLocation", "None"), 0);
     EXPECT_EQ(PpdMarkOption(ppd.get(), "Option4", "False"), 0);
-    for (const auto& [keyword, choice] :
-         {std::pair{"StapleLocation", "DualLandscape"}, {"QVPunch", "2HolePunch"},
-          {"QVPunch", "4HolePunch"}, {"QVFold", "Z"}, {"QVFold", "BiFoldStaple"}}) {
+    const std::pair<const char*, const char*> finishing[] = {{"StapleLocation", "DualLandscape"},
+                                                             {"QVPunch", "2HolePunch"},
+                                                             {"QVPunch", "4HolePunch"},
+                                                             {"QVFold", "Z"},
+                                                             {"QVFold", "BiFoldStaple"}};
+    for (const auto& [keyword, choice] : finishing) {
         EXPECT_GT(PpdMarkOption(ppd.get(), keyword, choice), 0) << choice;
         EXPECT_EQ(PpdMarkOption(ppd.get(), keyword, "None"), 0) << keyword;
     }

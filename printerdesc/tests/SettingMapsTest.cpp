@@ -24,6 +24,7 @@ using testing::WriteSampleVariant;
 TEST(SettingMaps, EveryKeyHasAText)
 {
     const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
+    // clang-format off
     const _SettingMap* const maps[] = {
         _BookletLayoutOrderMap, _RotateImageMap, _OutputOptionsMap, _PrinterEmulationMap,
         _OPISubsitutionMap, _OPIPrescanMap, _OnOffMap, _WatermarkMap, _WatermarkOptionsMap,
@@ -34,6 +35,7 @@ TEST(SettingMaps, EveryKeyHasAText)
         _CoverSidesSimplexImagedMap, _CoverSidesDuplexImagedMap, _CoverSidesImagedMap,
         _FolderNameMap, _SavedJobSaveOptionRadioMap, _JobNameMap, _LoginNameMap, _PlexMap,
         _ResolutionMap, _JobTypeMap, _SeparatorOptionMap, _FaxCoverSizeMap};
+    // clang-format on
     for (const _SettingMap* map : maps)
         for (const _SettingMap* row = map; row->key; ++row)
             EXPECT_TRUE(bundle.localizedString(row->key)) << row->key;

@@ -4,8 +4,6 @@
 #include "ui/InputLimitValidator.h"
 #include "ui/LocalizedFormat.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
@@ -58,17 +56,12 @@ TEST(InputLimits, StoredEntriesMustFitBothLimitsAndTheSet)
     EXPECT_TRUE((InputLimits{0, 0, std::nullopt}.accepts("")));
 }
 
-TEST(InputLimits, FieldsApplyThemToTypingAndPasting)
+TEST(InputLimits, FieldsApplyThemToTyping)
 {
     QLineEdit field;
     LimitInputLengthAndCharacters(&field, 1, 4, kDigits);
     QTest::keyClicks(&field, "1a2b3-45");
     EXPECT_EQ(field.text(), "1234");
-    field.setText("19");
-    field.setCursorPosition(1);
-    QApplication::clipboard()->setText("x2 345678");
-    field.paste();
-    EXPECT_EQ(field.text(), "1239");
 
     // Limits are replaced; below 1 and a null set remove them all.
     const QValidator* validator = field.validator();
@@ -76,7 +69,7 @@ TEST(InputLimits, FieldsApplyThemToTypingAndPasting)
     EXPECT_EQ(field.validator(), validator);
     field.end(false);
     QTest::keyClicks(&field, ", any text");
-    EXPECT_EQ(field.text(), "1239, any text");
+    EXPECT_EQ(field.text(), "1234, any text");
     LimitInputLengthAndCharacters(static_cast<QLineEdit*>(nullptr), 1, 2, std::nullopt); // ignored
 
     // A combo box's list items pass whole while typing is limited.

@@ -37,9 +37,8 @@ protected:
         for (int i = 0; i < popup.count(); ++i) {
             const std::int32_t value = PopupButtonItemTicketValue(&popup, i);
             const std::uint32_t command = PopupButtonItemCommand(&popup, i);
-            rows << popup.itemText(i) + ' ' +
-                        (value == kUnset ? "unset" : QString::number(value)) + ' ' +
-                        (command == kHistoryCommand ? "his" : QString::number(command != 0));
+            rows << popup.itemText(i) + ' ' + (value == kUnset ? "unset" : QString::number(value)) +
+                        ' ' + (command == kHistoryCommand ? "his" : QString::number(command != 0));
         }
         return rows.join(", ");
     }
@@ -52,7 +51,8 @@ TEST_F(PopupMenusTest, PopupsMirrorTheMapAndTheHistory)
     EXPECT_EQ(PopulatePopupButtonFromMap(&m_bundle, &popup, kMenuMap, 2, 0), 5);
     EXPECT_EQ(PopupButtonMaximum(&popup), 5);
     EXPECT_EQ(MenuSourceMap(&popup), kMenuMap);
-    EXPECT_EQ(items(popup), "Printer Default 1 1,  -5 0, STRING NOT FOUND 4 0, Use Job Setting unset 0");
+    EXPECT_EQ(items(popup),
+              "Printer Default 1 1,  -5 0, STRING NOT FOUND 4 0, Use Job Setting unset 0");
     EXPECT_FALSE(popup.model()->flags(popup.model()->index(1, 0)) & Qt::ItemIsSelectable);
 
     // History entries after their positions; only text entries count.

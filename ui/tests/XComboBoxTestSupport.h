@@ -62,8 +62,8 @@ protected:
                 .historyLimit = 3,
                 .firstLimit = 2,
                 .secondLimit = 6,
-                .allowedCharacters = CharacterSetFromString(
-                    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz")};
+                .allowedCharacters =
+                    CharacterSetFromString("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz")};
     }
 
     QTemporaryDir m_dir;
