@@ -1,10 +1,14 @@
 // Fixtures shared by the host's tests: the sample printer's PPD, a private
-// cupsd with a queue on it, and PostScript documents whose pages can be told
-// apart in a job's output.
+// cupsd with a queue on it, PostScript documents whose pages can be told
+// apart in a job's output, and a watermark selected for the job.
 #pragma once
 
+#include "host/WatermarkStampSource.h"
 #include "host/tests/CupsServer.h"
+#include "settings/PrintSession.h"
+#include "watermark/WatermarkStore.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -46,6 +50,29 @@ inline bool WritePostScriptDocument(const QString& path, int pages)
                 " show showpage\n";
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(text + "%%Trailer\n%%EOF\n") > 0;
+}
+
+// The user's watermark "CONFIDENTIAL", red text, written to the watermark
+// file under ORVAN_SHARED_DATA_DIR and selected in the ticket as the
+// Booklet/Watermark panel writes it: in the foreground, on all pages.
+inline void SelectConfidentialWatermark(Ticket& ticket)
+{
+    ASSERT_TRUE(QDir().mkpath(qEnvironmentVariable("ORVAN_SHARED_DATA_DIR")));
+    _WatermarkData record;
+    record.isText = 1;
+    record.textString.assignIfFits(std::string_view("CONFIDENTIAL"));
+    record.fontName.assignIfFits(std::string_view("DejaVuSans"));
+    record.fontSize = 60;
+    record.density = 40;
+    record.wellColorRed = 1;
+    record.wellColorAlpha = 1;
+    ASSERT_TRUE(saveWatermarkData(kWatermarkFile, record));
+    saveWatermarkList(kWatermarkFile, {"CONFIDENTIAL"});
+    ticket.setItem(kPanelClient, kJobWatermarkKey, "confidential");
+    ticket.setItem(kPanelClient, kJobWatermarkOptionKey,
+                   PropertyValue::integer(3, NumberType::SInt32));
+    ticket.setItem(kPanelClient, kJobWatermarkFirstPageOnlyKey,
+                   PropertyValue::integer(0, NumberType::SInt32));
 }
 
 // The description of an IPP printer with a finisher, for ippeveprinter's -a:

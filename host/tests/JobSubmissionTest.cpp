@@ -97,6 +97,7 @@ protected:
         if (IppEveryWherePrinter::programPath().isEmpty())
             GTEST_SKIP() << "ippeveprinter or dbus-daemon is not installed";
         qputenv("XDG_CONFIG_HOME", path("config").toLocal8Bit());
+        qputenv("ORVAN_SHARED_DATA_DIR", path("shared").toLocal8Bit());
         ASSERT_TRUE(WritePostScriptDocument(path("document.ps"), 3));
         ASSERT_TRUE(WriteFinisherPrinterAttributes(path("finisher.conf")));
         QString why;
@@ -336,10 +337,12 @@ TEST_F(Submission, QueueFailuresGiveOneLineAndNoJob)
     }
 }
 
-// orvan-print --print as a script runs it; afterwards the passcode is found
+// orvan-print --print as a script runs it: the printer gets the paper the
+// dialog would send, watermark included; afterwards the passcode is found
 // nowhere but in the job's own ticket (and at the printer).
-TEST_F(Submission, HeadlessPrintKeepsThePasscodeOutOfEverythingButTheJob)
+TEST_F(Submission, HeadlessPrintStampsTheWatermarkAndKeepsThePasscodeToTheJob)
 {
+    ASSERT_NO_FATAL_FAILURE(SelectConfidentialWatermark(m_session.printSettings()));
     ASSERT_TRUE(saveTicketFile(path("secure.plist"), m_session));
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
@@ -361,6 +364,14 @@ TEST_F(Submission, HeadlessPrintKeepsThePasscodeOutOfEverythingButTheJob)
     ASSERT_EQ(status, 0) << err.toStdString();
     EXPECT_EQ(out, "1\n");
     EXPECT_TRUE(m_printer->logged(QStringLiteral("job-password (octetString) %1").arg(kPasscode)));
+    const QStringList received = m_printer->receivedDocuments();
+    ASSERT_EQ(received.size(), 1);
+    QProcess pdftotext;
+    pdftotext.start("pdftotext", {received.first(), "-"});
+    ASSERT_TRUE(pdftotext.waitForFinished(30000));
+    const QByteArray text = pdftotext.readAllStandardOutput();
+    EXPECT_EQ(text.count("CONFIDENTIAL"), 3) << text.toStdString();
+    EXPECT_TRUE(text.contains("orvan test page 3")) << text.toStdString();
     EXPECT_EQ(QFileInfo(path("job.plist")).permissions() & 0x0077, 0)
         << "the job's ticket is the user's alone";
 

@@ -5,13 +5,11 @@
 #include "host/JobSubmission.h"
 #include "host/Presets.h"
 #include "host/PreviewPane.h"
-#include "host/WatermarkStampSource.h"
 #include "host/tests/HostTestSupport.h"
 #include "host/tests/PdfFixtures.h"
 #include "settings/PageFormat.h"
 #include "settings/TicketFile.h"
 #include "shell/ShellTicketItems.h"
-#include "watermark/WatermarkStore.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -104,29 +102,6 @@ protected:
         if (pane->isShowingPages() || pane->problem() != DocumentProblem::None ||
             checked.wait(5000))
             QApplication::processEvents();
-    }
-
-    // The user's watermark "CONFIDENTIAL", selected for the job as the
-    // Booklet/Watermark panel writes it: in the foreground, on all pages.
-    void selectWatermark()
-    {
-        ASSERT_TRUE(QDir(m_home.path()).mkpath("shared"));
-        _WatermarkData record;
-        record.isText = 1;
-        record.textString.assignIfFits(std::string_view("CONFIDENTIAL"));
-        record.fontName.assignIfFits(std::string_view("DejaVuSans"));
-        record.fontSize = 60;
-        record.density = 40;
-        record.wellColorRed = 1;
-        record.wellColorAlpha = 1;
-        ASSERT_TRUE(saveWatermarkData(kWatermarkFile, record));
-        saveWatermarkList(kWatermarkFile, {"CONFIDENTIAL"});
-        Ticket& ticket = m_session.printSettings();
-        ticket.setItem(kPanelClient, kJobWatermarkKey, "confidential");
-        ticket.setItem(kPanelClient, kJobWatermarkOptionKey,
-                       PropertyValue::integer(3, NumberType::SInt32));
-        ticket.setItem(kPanelClient, kJobWatermarkFirstPageOnlyKey,
-                       PropertyValue::integer(0, NumberType::SInt32));
     }
 
     // A4 landscape, two pages a sheet, as a user picks them.
@@ -415,7 +390,7 @@ TEST_F(PrintDialogTest, UnprintableFileIsExplainedInThePreviewAndRefused)
 // user's own file stays as it was.
 TEST_F(PrintDialogTest, SaveAsPdfWritesTheSheetsWithTheirWatermark)
 {
-    ASSERT_NO_FATAL_FAILURE(selectWatermark());
+    ASSERT_NO_FATAL_FAILURE(SelectConfidentialWatermark(m_session.printSettings()));
     const QString file = m_home.filePath("report.pdf");
     ASSERT_TRUE(WritePdfDocument(file, 4));
     QFile original(file);
@@ -449,7 +424,7 @@ TEST_F(PrintDialogTest, PrintOnACupsQueueSendsThePageSetupAndTheWatermark)
     ASSERT_NO_FATAL_FAILURE(StartCupsWithSampleQueue(server));
     if (!server)
         return;
-    ASSERT_NO_FATAL_FAILURE(selectWatermark());
+    ASSERT_NO_FATAL_FAILURE(SelectConfidentialWatermark(m_session.printSettings()));
     const QString file = m_home.filePath("report.pdf");
     ASSERT_TRUE(WritePdfDocument(file, 4));
     {
