@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,45 @@ inline void StartCupsWithSampleQueue(std::unique_ptr<CupsServer>& server)
     server = CupsServer::start(&why);
     ASSERT_TRUE(server) << why.toStdString();
     ASSERT_TRUE(server->addFileQueue("Meridian", SamplePpdPath(), &why)) << why.toStdString();
+}
+
+// The environment of a script: no display, and no print server unless the
+// caller names one.
+inline QProcessEnvironment HeadlessEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(name);
+    environment.insert("CUPS_SERVER", QStringLiteral("127.0.0.1:%1").arg(FreeLoopbackPort()));
+    return environment;
+}
+
+struct RunResult
+{
+    int exitCode = -1; // -1 when it crashed or did not finish in time
+    QByteArray out;
+    QString err;
+    std::string why() const
+    {
+        return QStringLiteral("exit %1: %2").arg(exitCode).arg(err).toStdString();
+    }
+};
+
+// A run of the built orvan-print.
+inline RunResult RunOrvanPrint(const QStringList& arguments,
+                               const QProcessEnvironment& environment = HeadlessEnvironment())
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(ORVAN_BINARY_DIR "/bin/orvan-print", arguments);
+    RunResult result;
+    if (!process.waitForFinished(30000))
+        process.kill();
+    else if (process.exitStatus() == QProcess::NormalExit)
+        result.exitCode = process.exitCode();
+    result.out = process.readAllStandardOutput();
+    result.err = QString::fromLocal8Bit(process.readAllStandardError());
+    return result;
 }
 
 // The text page n of a document made by WritePostScriptDocument shows.
