@@ -107,10 +107,6 @@ TEST_F(OrvanPrintProcess, PpdFileAndQueueOfTheSamePpdGiveTheSameTicket)
     // The PPD fetched from the server is a temporary file of the run.
     EXPECT_TRUE(QDir(path("tmp")).isEmpty())
         << QDir(path("tmp")).entryList().join(' ').toStdString();
-
-    const RunResult unknown = run({"--dump-ticket", "--printer", "Nowhere"});
-    EXPECT_EQ(unknown.exitCode, 2) << unknown.why();
-    EXPECT_TRUE(unknown.err.contains("Nowhere"));
 }
 
 TEST_F(OrvanPrintProcess, SavedTicketKeepsTheItemsItWasGivenWithClientsAndLocks)
@@ -141,20 +137,13 @@ TEST_F(OrvanPrintProcess, SavedTicketKeepsTheItemsItWasGivenWithClientsAndLocks)
         EXPECT_TRUE(kept && *kept == item) << key.toStdString();
     }
     EXPECT_EQ(saved.pageFormat(), given.pageFormat());
-    // Nested numbers keep their types, and the dump names them.
-    const PropertyValue* savedLayout = saved.printSettings().value("com.example.editor.Layout");
-    ASSERT_TRUE(savedLayout);
-    EXPECT_EQ(savedLayout->find("Columns")->numberType(), NumberType::SInt32);
-    EXPECT_EQ(savedLayout->find("Scale")->numberType(), NumberType::Float32);
-    const RunResult dump = run({"--dump-ticket", "--ticket", path("out.plist")});
-    const auto printed = readPropertyList(dump.out);
-    ASSERT_TRUE(printed) << dump.why();
-    const PropertyValue* type = &*printed;
-    for (const QString key : {kPrintSettingsTicketKey, QStringLiteral("Items"),
-                              QStringLiteral("com.example.editor.Layout"),
-                              QStringLiteral("NumberTypes"), QStringLiteral("Columns")})
-        type = type ? type->find(key) : nullptr;
-    EXPECT_EQ(type ? type->toString() : QString(), "SInt32") << dump.why();
+    // Nested numbers keep their types, in the saved file and the dump.
+    for (const PrintSession* session : {&dumped, &std::as_const(saved)}) {
+        const PropertyValue* layout = session->printSettings().value("com.example.editor.Layout");
+        ASSERT_TRUE(layout);
+        EXPECT_EQ(layout->find("Columns")->numberType(), NumberType::SInt32);
+        EXPECT_EQ(layout->find("Scale")->numberType(), NumberType::Float32);
+    }
     // What was saved is what was printed.
     EXPECT_EQ(dumped.printSettings(), saved.printSettings());
     // Saving to a device writes through it instead of replacing it.
