@@ -94,16 +94,6 @@ protected:
         emit box->activated(index);
     }
 
-    // Waits until the preview has shown a sheet or found the document unprintable.
-    static void waitForPreview(PrintDialog& dialog)
-    {
-        auto* pane = field<PreviewPane>(dialog, "PreviewPane");
-        QSignalSpy checked(pane, &PreviewPane::documentChecked);
-        if (pane->isShowingPages() || pane->problem() != DocumentProblem::None ||
-            checked.wait(5000))
-            QApplication::processEvents();
-    }
-
     // A4 landscape, two pages a sheet, as a user picks them.
     static void chooseA4LandscapeTwoUp(PrintDialog& dialog)
     {
@@ -275,7 +265,7 @@ TEST_F(PrintDialogTest, UnprintableFileIsExplainedInThePreviewAndRefused)
     ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("not a document\n") > 0);
     text.close();
     const auto dialog = makeDialog({SamplePrinter()}, {{file}});
-    waitForPreview(*dialog);
+    dialog->waitForPreview(5000);
     auto* message = field<QLabel>(*dialog, "PreviewMessage");
     EXPECT_TRUE(message->isVisible());
     EXPECT_TRUE(message->text().contains("notes.txt"));
