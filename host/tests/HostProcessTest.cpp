@@ -45,6 +45,10 @@ protected:
     {
         const RunResult dump = run(QStringList{"--dump-ticket"} + arguments);
         EXPECT_EQ(dump.exitCode, 0) << dump.why();
+        // The panes run in this order; scripts read it from the dump.
+        EXPECT_TRUE(
+            dump.out.contains("\n<!-- panes: Orvan Features, Special Pages, Job Notes -->\n"))
+            << dump.out.left(300).toStdString();
         PrintSession session;
         const auto plist = readPropertyList(dump.out);
         EXPECT_TRUE(plist && sessionFromPropertyList(*plist, session)) << dump.why();
