@@ -67,15 +67,13 @@ protected:
             texts << row.*field;
         return texts.join(" | ");
     }
+    // The enabled commands, by their buttons' names without "Button".
     QString enabled() const
     {
-        static const char* names[] = {"AddCovers", "AddInserts", "AddExceptions",
-                                      "Edit",      "Delete",     "DeleteAll",
-                                      "Undo",      "MoveUp",     "MoveDown"};
         QStringList on;
         for (const SpecialPagesCommandEntry& entry : kSpecialPagesCommands)
             if (model.isEnabled(entry.command))
-                on << names[static_cast<int>(entry.command)];
+                on << QString::fromLatin1(entry.objectName).chopped(6);
         return on.join(' ');
     }
 
@@ -309,31 +307,46 @@ TEST_F(SpecialPagesEditorTest, CoversDialogSwitchesCoversOnAndOff)
     EXPECT_FALSE(front || back);
 }
 
-// Position item, pages typed, and the start pages of the inserts made.
-TEST_F(SpecialPagesEditorTest, InsertsDialogMakesOneInsertPerPage)
+// Pages typed into the inserts dialog (with its position item) or the
+// exceptions dialog, and the rows added; a page-range error shows one alert,
+// saves no undo state and adds nothing.
+TEST_F(SpecialPagesEditorTest, AddDialogsMakeOnePagePerPageOrRange)
 {
-    const std::tuple<int, const char*, std::vector<std::int32_t>> cases[] = {
-        {kInsertAfterPagesItem, "1, 4-6", {1, 4, 5, 6}},
-        {kInsertAfterPagesItem, "0", {0}},
-        {kInsertBeforeFirstPageItem, "5-3", {0}}, // the text is not read
+    constexpr int kExceptions = -1; // in place of a position item
+    const std::tuple<int, const char*, Status, const char*> cases[] = {
+        {kInsertAfterPagesItem, "1, 4-6", kNoError, "1 | 4 | 5 | 6"},
+        {kInsertAfterPagesItem, "0", kNoError, "Before page 1"},
+        {kInsertBeforeFirstPageItem, "5-3", kNoError, "Before page 1"}, // the text is not read
+        {kExceptions, "4-6, 1", kNoError, "1 | 4-6"},
+        {kInsertAfterPagesItem, "100000", kPageNumberLimit, ""},
+        {kInsertAfterPagesItem, "4--6", kInvalidPageRanges, ""},
+        {kExceptions, " , ", kInvalidPageRanges, ""},
+        {kExceptions, "5-3", kInvalidRangeOrder, ""},
+        {kExceptions, "3, 0-2", kInvalidPageNumbers, ""},
     };
-    for (const auto& [position, text, pages] : cases) {
-        InsertList inserts;
+    for (const auto& [position, text, code, rows] : cases) {
+        model.state().inserts.clear();
+        model.state().exceptions.clear();
+        alerts.clear();
         int undoSaved = 0;
-        InsertsDialogModel dialog(bundle.get(), DialogMode::Add, nullptr);
-        dialog.insert().setQuantity(2);
-        dialog.setPositionItem(position);
-        dialog.setPagesText(text);
-        ASSERT_EQ(dialog.accept(inserts, nullptr, [&] { ++undoSaved; }), kNoError);
-        std::vector<std::int32_t> made;
-        for (long i = 0; i < inserts.count(); ++i) {
-            made.push_back(inserts.pageAtIndex(i)->startPage());
-            EXPECT_EQ(inserts.pageAtIndex(i)->quantity(), 2);
+        const auto saveUndo = [&] { ++undoSaved; };
+        Status status;
+        if (position == kExceptions) {
+            ExceptionsDialogModel dialog(bundle.get(), DialogMode::Add, nullptr);
+            dialog.setPagesText(text);
+            status = dialog.accept(model.state().exceptions, nullptr, saveUndo);
+        } else {
+            InsertsDialogModel dialog(bundle.get(), DialogMode::Add, nullptr);
+            dialog.setPositionItem(position);
+            dialog.setPagesText(text);
+            status = dialog.accept(model.state().inserts, nullptr, saveUndo);
         }
-        EXPECT_EQ(made, pages) << text;
-        EXPECT_EQ(undoSaved, 1);
+        refresh();
+        EXPECT_EQ(status, code) << text;
+        EXPECT_EQ(column(&SpecialPagesRow::pages), rows) << text;
+        EXPECT_EQ(alerts.size(), code == kNoError ? 0u : 1u) << text;
+        EXPECT_EQ(undoSaved, code == kNoError ? 1 : 0) << text;
     }
-    EXPECT_TRUE(alerts.empty());
 }
 
 TEST_F(SpecialPagesEditorTest, EditingReplacesTheEditedPage)
@@ -359,37 +372,6 @@ TEST_F(SpecialPagesEditorTest, EditingReplacesTheEditedPage)
     refresh();
     EXPECT_EQ(column(&SpecialPagesRow::pages), "9 | 12 | 10-12 | 20");
     EXPECT_EQ(model.state().exceptions.pageAtIndex(1)->plex(), kPlexDuplexShort);
-}
-
-// Every page-range error shows one alert, saves no undo state and leaves the
-// list alone.
-TEST_F(SpecialPagesEditorTest, BadPageTextsShowTheirAlertsAndChangeNothing)
-{
-    const std::tuple<bool, const char*, Status> cases[] = {
-        {false, "100000", kPageNumberLimit},   {false, "4--6", kInvalidPageRanges},
-        {true, " , ", kInvalidPageRanges},     {true, "5-3", kInvalidRangeOrder},
-        {true, "3, 0-2", kInvalidPageNumbers},
-    };
-    for (const auto& [exception, text, code] : cases) {
-        alerts.clear();
-        int undoSaved = 0;
-        const auto saveUndo = [&] { ++undoSaved; };
-        Status status;
-        if (exception) {
-            ExceptionsDialogModel dialog(bundle.get(), DialogMode::Add, nullptr);
-            dialog.setPagesText(text);
-            status = dialog.accept(model.state().exceptions, nullptr, saveUndo);
-        } else {
-            InsertsDialogModel dialog(bundle.get(), DialogMode::Add, nullptr);
-            dialog.setPagesText(text);
-            status = dialog.accept(model.state().inserts, nullptr, saveUndo);
-        }
-        EXPECT_EQ(status, code) << text;
-        EXPECT_EQ(alerts.size(), 1u) << text;
-        EXPECT_EQ(undoSaved, 0);
-    }
-    EXPECT_EQ(model.state().inserts.count(), 0);
-    EXPECT_EQ(model.state().exceptions.count(), 0);
 }
 
 } // namespace

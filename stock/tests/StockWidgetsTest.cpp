@@ -80,33 +80,27 @@ protected:
     std::unique_ptr<StockButton> button;
 };
 
-TEST_F(StockButtonTest, ChoosingAColourChangesTheStockAndItsSummary)
+TEST_F(StockButtonTest, MenuChoicesChangeTheStockItsSummaryAndPicture)
 {
-    makeButton(JobContext::Job);
-    EXPECT_EQ(summary(), "- White\n- Plain");
+    makeButton(JobContext::Covers);
+    EXPECT_EQ(summary(), "Use Job Setting");
     QSignalSpy changed(button.get(), &StockButton::stockChanged);
     EXPECT_EQ(submenu("StockColorMenu")->title(), "Other Color");
     ASSERT_TRUE(Choose(submenu("StockColorMenu"), kStockColorCommand, 2)); // Blue
     EXPECT_EQ(stock.color(), 2);
     EXPECT_EQ(changed.count(), 1);
-    EXPECT_EQ(summary(), "- Blue\n- Plain");
+    EXPECT_EQ(summary(), "- Blue");
     EXPECT_EQ(button->iconView()->imageNames(), QStringList{"Paper_Plain-Blue.gif"});
-
     // Transparency turns it Clear, and the picture with it.
     ASSERT_TRUE(Choose(submenu("StockTypeMenu"), kStockTypeCommand, 2));
     EXPECT_EQ(summary(), "- Clear\n- Transparency");
     EXPECT_EQ(button->iconView()->imageNames(), QStringList{"Paper_Plain-Clear.gif"});
-}
-
-TEST_F(StockButtonTest, CoverStockFromTheInserterAndBack)
-{
-    makeButton(JobContext::Covers);
-    EXPECT_EQ(summary(), "Use Job Setting");
+    // The inserter, until a size is chosen.
     ASSERT_TRUE(Choose(button->menu(), kStockSourceCommand, kInstalledFeatureSource));
     EXPECT_EQ(summary(), "- Post-Print Inserter");
     ASSERT_TRUE(Choose(submenu("StockSizeMenu"), kStockSizeCommand, 4));
     EXPECT_EQ(stock.source(), kUnset);
-    EXPECT_EQ(summary(), "- A4");
+    EXPECT_EQ(summary(), "- A4\n- Clear\n- Transparency");
 }
 
 TEST_F(StockButtonTest, MenuCommandsOpenTheDialogs)
