@@ -23,12 +23,6 @@ void setBooklet(Ticket& ticket, bool on)
               kNoError);
 }
 
-std::unique_ptr<Cover> coverIn(const Ticket& ticket, const QString& key)
-{
-    const PropertyValue* dictionary = ticket.dictionary(key);
-    return dictionary ? std::make_unique<Cover>(dictionary) : nullptr;
-}
-
 } // namespace
 
 // Covers are stored unlocked with the record client. With booklet layout on,
@@ -53,7 +47,7 @@ TEST(SyncCoversWrite, BookletLayoutStoresEqualCoversOnce)
         EXPECT_EQ(std::pair(item->client, item->locked), std::pair(kRecordClient, false));
         EXPECT_EQ(ticket.containsItem(kBackCoverKey), backStored) << booklet.value_or(-1);
         if (backStored)
-            EXPECT_EQ(*coverIn(ticket, kBackCoverKey), *back);
+            EXPECT_EQ(Cover(ticket.dictionary(kBackCoverKey)), *back);
 
         std::unique_ptr<Cover> none;
         EXPECT_EQ(SyncCovers(ticket, SpecialPagesSync::WriteTicket, none, none), kNoError);
