@@ -40,7 +40,7 @@ void SpecialPagesUserNotification(Status code, const Bundle& bundle)
             continue;
         QString message = text(bundle, entry.messageKey);
         // The limit message names how many digits a page number may have.
-        if (code == kPageNumberLimit)
+        if (code == kPageNumberLimit && message.contains(QLatin1String("%1")))
             message = message.arg(CountDigits(kLastPageNumber));
         ShowAlert({AlertLevel::Caution, text(bundle, entry.titleKey), message});
         return;
