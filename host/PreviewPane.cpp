@@ -42,7 +42,9 @@ PreviewPane::PreviewPane(QWidget* parent)
     m_message->setFixedSize(kPreviewWidth, kPreviewHeight);
     m_message->setFrameShape(QFrame::StyledPanel);
     m_message->setMargin(16);
-    m_message->hide();
+    // Until a document arrives the pane says why it is empty.
+    m_image->hide();
+    m_message->setText(tr("No document to preview"));
     m_previous->setArrowType(Qt::LeftArrow);
     m_next->setArrowType(Qt::RightArrow);
     m_previous->setToolTip(tr("Previous sheet"));
