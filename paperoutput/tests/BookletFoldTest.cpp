@@ -26,8 +26,9 @@ TEST(BookletFold, OnlyABookletMakerOffersTheFoldRadiosAndKeepsTheFold)
         QTemporaryDir folder;
         QFile copy(folder.filePath(QStringLiteral("printer.ppd")));
         ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
-        copy.write(QByteArray(sampleText).replace(
-            defaultLine, "*DefaultBookletFinishingOptions: " + QByteArray(row.bookletMaker)));
+        copy.write(QByteArray(sampleText)
+                       .replace(defaultLine, "*DefaultBookletFinishingOptions: " +
+                                                 QByteArray(row.bookletMaker)));
         copy.close();
         QString error;
         const PpdFilePtr ppd = OpenPPDFile(copy.fileName(), &error);
