@@ -151,7 +151,8 @@ TEST(FaxOptionsTest, SetupRefusesWhatCannotBeSent)
         model.controls().dialingPrefixOn = !row.prefix.isEmpty();
         model.controls().dialingPrefix = row.prefix;
         const auto typed = LANFaxSetupModel::recipientFromTypedName("Bo", row.number);
-        EXPECT_EQ(model.checkRecipient(*typed).has_value(), row.refused) << row.number.toStdString();
+        EXPECT_EQ(model.checkRecipient(*typed).has_value(), row.refused)
+            << row.number.toStdString();
     }
     model.controls().dialingPrefixOn = false;
 
