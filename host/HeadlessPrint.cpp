@@ -1,6 +1,7 @@
 #include "host/HeadlessPrint.h"
 
 #include "host/JobSubmission.h"
+#include "host/PaperSizes.h"
 #include "settings/TicketFile.h"
 
 #include <cstdio>
@@ -10,6 +11,10 @@ namespace orvan {
 int RunHeadlessPrint(PluginHost& plugin, PrintSession& session, const PrinterEntry& printer,
                      const QStringList& files, const QString& saveTicket)
 {
+    // The page setup of the tickets, on the printer's papers, goes into the
+    // tickets before the panels read them, as the dialog shows it.
+    const QString ppd = session.currentPrinter().value_or(Printer{}).ppdPath;
+    WritePageSetup(session, ReadPageSetup(session, PapersOfPrinter(printer, ppd)));
     plugin.prolog();
     plugin.initialize({}, &session);
     plugin.sync(&session, true);

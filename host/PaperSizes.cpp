@@ -95,4 +95,16 @@ std::vector<PaperSize> StandardPapers()
     return PapersFromMediaNames(names, letterFirst ? names[1] : names[0]);
 }
 
+std::vector<PaperSize> PapersOfPrinter(const PrinterEntry& printer, const QString& ppdPath)
+{
+    std::vector<PaperSize> papers;
+    if (!printer.savesPdf) {
+        if (const PpdFilePtr ppd = OpenPPDFile(ppdPath))
+            papers = PapersFromPpd(ppd.get());
+        else if (!printer.queueName.isEmpty())
+            papers = PapersOfQueue(printer.queueName);
+    }
+    return papers.empty() ? StandardPapers() : papers;
+}
+
 } // namespace orvan

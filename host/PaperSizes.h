@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/PageSetup.h"
+#include "host/PrinterList.h"
 
 #include <QStringList>
 
@@ -25,5 +26,9 @@ std::vector<PaperSize> PapersOfQueue(const QString& queueName);
 // The papers offered when saving a PDF file: A4 and US Letter first, the
 // one of the system's locale leading.
 std::vector<PaperSize> StandardPapers();
+// The papers the printer offers: from its PPD at `ppdPath` (else, for a queue,
+// from the server); the standard papers for "Save as PDF" and whenever the
+// printer names none.
+std::vector<PaperSize> PapersOfPrinter(const PrinterEntry& printer, const QString& ppdPath);
 
 } // namespace orvan

@@ -33,7 +33,6 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -330,17 +329,8 @@ void PrintDialog::choosePrinter(int index)
 
 void PrintDialog::offerPapers(const PrinterEntry& printer)
 {
-    std::vector<PaperSize> papers;
-    if (!printer.savesPdf) {
-        if (const PpdFilePtr ppd =
-                OpenPPDFile(m_session.currentPrinter().value_or(Printer{}).ppdPath))
-            papers = PapersFromPpd(ppd.get());
-        else if (!printer.queueName.isEmpty())
-            papers = PapersOfQueue(printer.queueName);
-    }
-    if (papers.empty())
-        papers = StandardPapers();
-    m_pageSetup.setPapers(std::move(papers));
+    m_pageSetup.setPapers(
+        PapersOfPrinter(printer, m_session.currentPrinter().value_or(Printer{}).ppdPath));
     if (!m_pageSetupRead) { // the first printer: a ticket given to the dialog may hold a page setup
         m_pageSetup.readFrom(m_session);
         m_pageSetupRead = true;
@@ -510,12 +500,8 @@ void PrintDialog::print()
                     "or save the job's settings with --save-ticket."));
             return;
         }
-        // No printer filter applies the watermark: the job gets stamped copies.
-        QTemporaryDir copies;
-        QStringList files;
-        if (!stampedCopies(copies, &files))
-            return;
-        const submission::SubmissionResult sent = SubmitSession(m_session, printer, files);
+        const submission::SubmissionResult sent =
+            SubmitSession(m_session, printer, m_options.files);
         for (const QString& notice : sent.notices)
             std::fprintf(stderr, "orvan-print: warning: %s\n", notice.toLocal8Bit().constData());
         if (!sent.error.isEmpty()) {
@@ -552,32 +538,6 @@ bool PrintDialog::saveAsPdf()
     if (!result.ok()) {
         fail(DocumentProblemText(result.problem, m_options.files.first(), result.detail));
         return false;
-    }
-    return true;
-}
-
-bool PrintDialog::stampedCopies(const QTemporaryDir& folder, QStringList* files)
-{
-    const std::optional<WatermarkStamp> watermark = previewSettings().watermark;
-    for (const QString& file : m_options.files) {
-        if (!watermark) {
-            *files << file;
-            continue;
-        }
-        DocumentPreparation preparation;
-        preparation.watermark = watermark;
-        std::tie(preparation.firstPage, preparation.lastPage) =
-            PageRangeFromTicket(m_session.printSettings());
-        // The copy keeps the file's name, which names the job.
-        const QString copy = folder.filePath(
-            QStringLiteral("%1/%2").arg(files->size()).arg(QFileInfo(file).fileName()));
-        QDir().mkpath(QFileInfo(copy).path());
-        const PreparationResult result = PrepareDocument(file, preparation, copy);
-        if (!result.ok()) {
-            fail(DocumentProblemText(result.problem, file, result.detail));
-            return false;
-        }
-        *files << copy;
     }
     return true;
 }

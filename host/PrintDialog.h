@@ -22,7 +22,6 @@ class PresetPopup;
 class QLabel;
 class QRadioButton;
 class QSpinBox;
-class QTemporaryDir;
 class QTimer;
 class QStackedWidget;
 
@@ -81,9 +80,6 @@ private:
     QString jobName() const;
     void refreshPreview();
     bool saveAsPdf();
-    // The files as the job sends them: copies with the watermark stamped on
-    // them, in `folder`, when one is selected; else the files themselves.
-    bool stampedCopies(const QTemporaryDir& folder, QStringList* files);
     // Restarts the plug-in on other tickets (a preset, the printer's defaults).
     void replaceSettings(const Ticket& printSettings, const Ticket& pageFormat);
     void applyPreset(const QString& name);

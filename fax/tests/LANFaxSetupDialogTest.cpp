@@ -6,9 +6,9 @@
 #include "settings/PrintSession.h"
 #include "settings/Ticket.h"
 #include "settings/TicketFile.h"
+#include "tests/support/WhenShown.h"
 #include "ui/PopupMenus.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDir>
@@ -20,34 +20,15 @@
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
-
-#include <functional>
 
 using namespace orvan;
 
 namespace {
 
-// Runs `step` on the visible window with that object name once a modal
-// loop runs; any dialog still open after five seconds is rejected so that a
-// failing test cannot hang.
-void whenShown(const QString& objectName, std::function<void(QWidget*)> step)
-{
-    QTimer::singleShot(0, [objectName, step] {
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (widget->objectName() == objectName && widget->isVisible())
-                return step(widget);
-        ADD_FAILURE() << "no visible " << objectName.toStdString();
-    });
-    QTimer::singleShot(5000, [] {
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* dialog = qobject_cast<QDialog*>(widget); dialog && dialog->isVisible())
-                dialog->reject();
-    });
-}
+using orvan::testing::WhenShown;
 
 template <typename T> T* control(QWidget* window, const char* name)
 {
@@ -71,7 +52,7 @@ void choose(QWidget* window, const char* popupName, std::int32_t ticketValue)
 
 void answerQuestion(QMessageBox::StandardButton answer)
 {
-    whenShown("FaxQuestion",
+    WhenShown("FaxQuestion",
               [answer](QWidget* box) { static_cast<QMessageBox*>(box)->button(answer)->click(); });
 }
 
@@ -131,12 +112,12 @@ TEST_F(LANFaxSetupDialogTest, TypedAndAddressBookRecipientsReachTheTicketWithThe
     PropertyValue options = PropertyValue::dictionary();
     PropertyValue recipients = PropertyValue::array();
 
-    whenShown("LANFaxSetup", [this](QWidget* dialog) {
+    WhenShown("LANFaxSetup", [this](QWidget* dialog) {
         QTest::keyClicks(control<QLineEdit>(dialog, "FaxTypedName"), "Ann Lee");
         QTest::keyClicks(control<QLineEdit>(dialog, "FaxTypedNumber"), "+1 (555) 123-4567");
         click(dialog, "FaxAddTyped");
 
-        whenShown("FaxAddressBook", [](QWidget* picker) {
+        WhenShown("FaxAddressBook", [](QWidget* picker) {
             saveScreenshot(picker, "lan-fax-address-book.png");
             QTest::keyClicks(control<QLineEdit>(picker, "FaxAddressBookSearch"), "berg");
             auto* list = control<QListWidget>(picker, "FaxAddressBookList");
@@ -218,7 +199,7 @@ TEST_F(LANFaxSetupDialogTest, QuestionsAlertsAndCancelGuardTheJob)
     recipients.append(std::make_shared<FaxRecipient>("Ann", "Lee", "555 0100"));
     const PropertyValue before = recipients.toTicket();
 
-    whenShown("LANFaxSetup", [this](QWidget* dialog) {
+    WhenShown("LANFaxSetup", [this](QWidget* dialog) {
         auto* list = control<QTreeWidget>(dialog, "FaxRecipients");
         auto* name = control<QLineEdit>(dialog, "FaxTypedName");
         auto* number = control<QLineEdit>(dialog, "FaxTypedNumber");

@@ -1,11 +1,16 @@
 // Fixtures shared by the host's tests: the sample printer's PPD, a private
-// cupsd with a queue on it, and PostScript documents whose pages can be told
-// apart in a job's output.
+// cupsd with a queue on it, PostScript documents whose pages can be told
+// apart in a job's output, and a watermark selected for the job.
 #pragma once
 
+#include "host/WatermarkStampSource.h"
 #include "host/tests/CupsServer.h"
+#include "settings/PrintSession.h"
+#include "watermark/WatermarkStore.h"
 
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -30,6 +35,45 @@ inline void StartCupsWithSampleQueue(std::unique_ptr<CupsServer>& server)
     ASSERT_TRUE(server->addFileQueue("Meridian", SamplePpdPath(), &why)) << why.toStdString();
 }
 
+// The environment of a script: no display, and no print server unless the
+// caller names one.
+inline QProcessEnvironment HeadlessEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(name);
+    environment.insert("CUPS_SERVER", QStringLiteral("127.0.0.1:%1").arg(FreeLoopbackPort()));
+    return environment;
+}
+
+struct RunResult
+{
+    int exitCode = -1; // -1 when it crashed or did not finish in time
+    QByteArray out;
+    QString err;
+    std::string why() const
+    {
+        return QStringLiteral("exit %1: %2").arg(exitCode).arg(err).toStdString();
+    }
+};
+
+// A run of the built orvan-print.
+inline RunResult RunOrvanPrint(const QStringList& arguments,
+                               const QProcessEnvironment& environment = HeadlessEnvironment())
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(ORVAN_BINARY_DIR "/bin/orvan-print", arguments);
+    RunResult result;
+    if (!process.waitForFinished(30000))
+        process.kill();
+    else if (process.exitStatus() == QProcess::NormalExit)
+        result.exitCode = process.exitCode();
+    result.out = process.readAllStandardOutput();
+    result.err = QString::fromLocal8Bit(process.readAllStandardError());
+    return result;
+}
+
 // The text page n of a document made by WritePostScriptDocument shows.
 inline QByteArray PageMarker(int page)
 {
@@ -46,6 +90,29 @@ inline bool WritePostScriptDocument(const QString& path, int pages)
                 " show showpage\n";
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(text + "%%Trailer\n%%EOF\n") > 0;
+}
+
+// The user's watermark "CONFIDENTIAL", red text, written to the watermark
+// file under ORVAN_SHARED_DATA_DIR and selected in the ticket as the
+// Booklet/Watermark panel writes it: in the foreground, on all pages.
+inline void SelectConfidentialWatermark(Ticket& ticket)
+{
+    ASSERT_TRUE(QDir().mkpath(qEnvironmentVariable("ORVAN_SHARED_DATA_DIR")));
+    _WatermarkData record;
+    record.isText = 1;
+    record.textString.assignIfFits(std::string_view("CONFIDENTIAL"));
+    record.fontName.assignIfFits(std::string_view("DejaVuSans"));
+    record.fontSize = 60;
+    record.density = 40;
+    record.wellColorRed = 1;
+    record.wellColorAlpha = 1;
+    ASSERT_TRUE(saveWatermarkData(kWatermarkFile, record));
+    saveWatermarkList(kWatermarkFile, {"CONFIDENTIAL"});
+    ticket.setItem(kPanelClient, kJobWatermarkKey, "confidential");
+    ticket.setItem(kPanelClient, kJobWatermarkOptionKey,
+                   PropertyValue::integer(3, NumberType::SInt32));
+    ticket.setItem(kPanelClient, kJobWatermarkFirstPageOnlyKey,
+                   PropertyValue::integer(0, NumberType::SInt32));
 }
 
 // The description of an IPP printer with a finisher, for ippeveprinter's -a:

@@ -128,15 +128,9 @@ TEST(SheetLayoutTest, CellsFollowTheOrderAndPagesTurnToFit)
     EXPECT_EQ(upright.target.center(), QPointF(600, 300));
     EXPECT_NEAR(upright.target.width(), 400, 1e-9);
 
-    // The range clipped to the document; five pages two a sheet make three sheets.
+    // The range clipped to the document (sheets: DocumentPreparerTest).
     EXPECT_EQ(SelectedPages(5, 4, 9), (std::vector<int>{3, 4}));
     EXPECT_TRUE(SelectedPages(5, 6, 9).empty());
-    const auto sheets =
-        LayOutSheets(SelectedPages(5, 1, 99), PageSetup{kA4, Orientation::Landscape, 2},
-                     [](int) { return QSizeF(595, 842); });
-    ASSERT_EQ(sheets.size(), 3u);
-    EXPECT_EQ(sheets[2].size(), 1u);
-    EXPECT_EQ(sheets[2][0].page, 4);
 }
 
 } // namespace

@@ -62,7 +62,9 @@ TEST_F(PluginFactory, EveryListedPanelFunctionIsExported)
     }
 }
 
-TEST_F(PluginFactory, MakesInstancesOnlyForThePlugInType)
+// Only the plug-in type makes an instance, and each holds the factory until
+// its last release.
+TEST_F(PluginFactory, InstancesOfThePlugInTypeHoldTheFactoryUntilTheirLastRelease)
 {
     constexpr Uuid others[] = {kOrvanFactoryID, kDialogExtensionInterfaceID, kBaseInterfaceID,
                                Uuid{}, *Uuid::parse("BDB091F4-E57F-11D3-B5CC-0050E4603278")};
@@ -70,10 +72,6 @@ TEST_F(PluginFactory, MakesInstancesOnlyForThePlugInType)
         EXPECT_EQ(m_factory(nullptr, &type), nullptr);
     EXPECT_EQ(m_factory(nullptr, nullptr), nullptr);
     EXPECT_EQ(registered(), 0);
-}
-
-TEST_F(PluginFactory, InstancesHoldTheFactoryUntilTheirLastRelease)
-{
     PlugInInstance* one = m_factory(nullptr, &kPDEPlugInType);
     PlugInInstance* two = m_factory(nullptr, &kPDEPlugInType);
     ASSERT_TRUE(one && two);

@@ -5,13 +5,11 @@
 #include "host/JobSubmission.h"
 #include "host/Presets.h"
 #include "host/PreviewPane.h"
-#include "host/WatermarkStampSource.h"
 #include "host/tests/HostTestSupport.h"
 #include "host/tests/PdfFixtures.h"
 #include "settings/PageFormat.h"
 #include "settings/TicketFile.h"
 #include "shell/ShellTicketItems.h"
-#include "watermark/WatermarkStore.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -96,39 +94,6 @@ protected:
         emit box->activated(index);
     }
 
-    // Waits until the preview has shown a sheet or found the document unprintable.
-    static void waitForPreview(PrintDialog& dialog)
-    {
-        auto* pane = field<PreviewPane>(dialog, "PreviewPane");
-        QSignalSpy checked(pane, &PreviewPane::documentChecked);
-        if (pane->isShowingPages() || pane->problem() != DocumentProblem::None ||
-            checked.wait(5000))
-            QApplication::processEvents();
-    }
-
-    // The user's watermark "CONFIDENTIAL", selected for the job as the
-    // Booklet/Watermark panel writes it: in the foreground, on all pages.
-    void selectWatermark()
-    {
-        ASSERT_TRUE(QDir(m_home.path()).mkpath("shared"));
-        _WatermarkData record;
-        record.isText = 1;
-        record.textString.assignIfFits(std::string_view("CONFIDENTIAL"));
-        record.fontName.assignIfFits(std::string_view("DejaVuSans"));
-        record.fontSize = 60;
-        record.density = 40;
-        record.wellColorRed = 1;
-        record.wellColorAlpha = 1;
-        ASSERT_TRUE(saveWatermarkData(kWatermarkFile, record));
-        saveWatermarkList(kWatermarkFile, {"CONFIDENTIAL"});
-        Ticket& ticket = m_session.printSettings();
-        ticket.setItem(kPanelClient, kJobWatermarkKey, "confidential");
-        ticket.setItem(kPanelClient, kJobWatermarkOptionKey,
-                       PropertyValue::integer(3, NumberType::SInt32));
-        ticket.setItem(kPanelClient, kJobWatermarkFirstPageOnlyKey,
-                       PropertyValue::integer(0, NumberType::SInt32));
-    }
-
     // A4 landscape, two pages a sheet, as a user picks them.
     static void chooseA4LandscapeTwoUp(PrintDialog& dialog)
     {
@@ -175,47 +140,40 @@ TEST_F(PrintDialogTest, FieldsStartFromTheTicketAndPrintWritesThemBack)
         EXPECT_EQ(fields(*dialog), std::tuple(7, 4, 6));
         EXPECT_GT(field<QTabBar>(*dialog, "ShellTabs")->count(), 0);
         enterCopiesAndPages(*dialog, 3, 2, 5);
+        // All pages prints as the whole range.
+        field<QRadioButton>(*dialog, "AllPagesButton")->setChecked(true);
         EXPECT_EQ(clickPrint(*dialog), QStringList());
         EXPECT_EQ(dialog->result(), QDialog::Accepted);
     }
     const Ticket& settings = m_session.printSettings();
     EXPECT_EQ(CopiesFromTicket(settings), 3);
-    EXPECT_EQ(PageRangeFromTicket(settings), std::pair(2, 5));
+    EXPECT_EQ(PageRangeFromTicket(settings), std::pair(1, kAllPagesLast));
     EXPECT_EQ(settings.item(kCopiesKey)->client, kPrintingManagerClient);
     EXPECT_EQ(settings.string(kControllerFamilyKey), "Meridian");
-
-    // All pages prints as the whole range.
-    const auto dialog = makeDialog({SamplePrinter()});
-    field<QRadioButton>(*dialog, "AllPagesButton")->setChecked(true);
-    clickPrint(*dialog);
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(PageRangeFromTicket(settings), std::pair(1, kAllPagesLast));
 }
 
-TEST_F(PrintDialogTest, PrinterFromAPpdFileKeepsThatFile)
+// A printer from a PPD file, as orvan-print --ppd makes it: no queue, its
+// own PPD; one that cannot be opened is named in the status line.
+TEST_F(PrintDialogTest, PrinterFromAPpdFileKeepsThatFileOrSaysWhyNot)
 {
-    // As orvan-print --ppd makes it: no queue, its own PPD.
     const QString ppd = m_home.filePath("Office.ppd");
     ASSERT_TRUE(QFile::copy(SamplePpdPath(), ppd));
-    const PrinterEntry fromFile{"Office", {}, ppd, true, true};
-    const auto dialog = makeDialog({fromFile, SamplePrinter()});
-    ASSERT_TRUE(m_session.currentPrinter());
+    const QString broken = m_home.filePath("Broken.ppd");
+    QFile file(broken);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("not a printer description"));
+    file.close();
+    const auto dialog = makeDialog({{"Broken", {}, broken, true, true}, {"Office", {}, ppd}});
+    const QString status = field<QLabel>(*dialog, "StatusLabel")->text();
+    EXPECT_TRUE(status.contains("cannot open the PPD file " + broken + ": "))
+        << status.toStdString();
+    EXPECT_TRUE(m_session.currentPrinter()->ppdPath.isEmpty());
+
+    choose(*dialog, "PrinterPopup", "Office");
     EXPECT_EQ(*m_session.currentPrinter(), (Printer{QString(), ppd}));
+    EXPECT_TRUE(field<QLabel>(*dialog, "StatusLabel")->text().isEmpty());
     clickPrint(*dialog);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
     EXPECT_EQ(m_session.currentPrinter()->ppdPath, ppd);
-}
-
-TEST_F(PrintDialogTest, UnusablePpdIsNamedInTheStatusLine)
-{
-    const QString ppd = m_home.filePath("Broken.ppd");
-    QFile broken(ppd);
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("not a printer description"));
-    broken.close();
-    const auto dialog = makeDialog({PrinterEntry{"Broken", {}, ppd, true, true}});
-    const QString status = field<QLabel>(*dialog, "StatusLabel")->text();
-    EXPECT_TRUE(status.contains("cannot open the PPD file " + ppd + ": ")) << status.toStdString();
-    EXPECT_TRUE(m_session.currentPrinter()->ppdPath.isEmpty());
 }
 
 TEST_F(PrintDialogTest, FailureToPrintShowsWhyAndKeepsTheDialogAndItsFields)
@@ -235,8 +193,6 @@ TEST_F(PrintDialogTest, FailureToPrintShowsWhyAndKeepsTheDialogAndItsFields)
         // The ticket cannot be saved.
         {{{}, m_home.filePath("plain-file/job.plist")}, SamplePrinter(), "saved"},
         {{{m_home.filePath("report.ps")}, {}}, unreachable, "cannot reach the printer"},
-        // Not a document: refused before it is sent.
-        {{{m_home.filePath("plain-file")}, {}}, unreachable, "plain-file"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.mentions);
@@ -300,16 +256,86 @@ TEST_F(PrintDialogTest, PresetsSaveAndRestoreTheSettings)
     EXPECT_EQ(fields(*dialog), std::tuple(5, 0, 1));
 }
 
+// A file that cannot be printed: the preview area says why, and Print is
+// refused with the same reason.
+TEST_F(PrintDialogTest, UnprintableFileIsExplainedInThePreviewAndRefused)
+{
+    const QString file = m_home.filePath("notes.txt");
+    QFile text(file);
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("not a document\n") > 0);
+    text.close();
+    const auto dialog = makeDialog({SamplePrinter()}, {{file}});
+    dialog->waitForPreview(5000);
+    auto* message = field<QLabel>(*dialog, "PreviewMessage");
+    EXPECT_TRUE(message->isVisible());
+    EXPECT_TRUE(message->text().contains("notes.txt"));
+    const QStringList boxes = clickPrint(*dialog);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes.first(), message->text());
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+// What a user checks a watermark with before using paper. The page setup
+// goes into the tickets where the panels read it (paper rectangle, N-up), the
+// preview lays the sheets out accordingly, and the saved PDF has half the
+// pages, on landscape A4, each page carrying the watermark; the user's own
+// file stays as it was.
+TEST_F(PrintDialogTest, PageSetupReachesTheTicketsThePreviewAndTheSavedPdf)
+{
+    ASSERT_NO_FATAL_FAILURE(SelectConfidentialWatermark(m_session.printSettings()));
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 5));
+    QFile original(file);
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray before = original.readAll();
+    PrintDialog::Options options{{file}};
+    options.pdfPath = m_home.filePath("saved.pdf");
+    const auto dialog = makeDialog({SamplePrinter()}, options);
+    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(612, 792));
+    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), false);
+    EXPECT_EQ(m_session.printSettings().string(kJobNameKey), "report.pdf");
+
+    chooseA4LandscapeTwoUp(*dialog);
+    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(595, 842));
+    EXPECT_EQ(m_session.pageFormat().integer(kOrientationKey, NumberType::SInt32),
+              kLandscapeOrientation);
+    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), true);
+    EXPECT_TRUE(field<QComboBox>(*dialog, "PageOrderPopup")->isEnabled());
+    choose(*dialog, "PrinterPopup", "Save as PDF"); // its papers have A4 too
+    auto* pane = field<PreviewPane>(*dialog, "PreviewPane");
+    for (int i = 0; i < 50 && pane->spreadCount() != 3; ++i)
+        QSignalSpy(pane, &PreviewPane::spreadShown).wait(200);
+    EXPECT_TRUE(pane->isShowingPages());
+    EXPECT_EQ(field<QLabel>(*dialog, "SheetPositionLabel")->text(), "1 of 3");
+
+    EXPECT_EQ(clickPrint(*dialog), QStringList());
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    const auto saved = Poppler::Document::load(options.pdfPath);
+    ASSERT_TRUE(saved);
+    ASSERT_EQ(saved->numPages(), 3);
+    for (int sheet = 0; sheet < 3; ++sheet) {
+        const QSizeF size = saved->page(sheet)->pageSizeF();
+        EXPECT_TRUE(std::abs(size.width() - 842) < 1 && std::abs(size.height() - 595) < 1) << sheet;
+        EXPECT_EQ(saved->page(sheet)->text(QRectF()).count("CONFIDENTIAL"), sheet < 2 ? 2 : 1)
+            << sheet;
+    }
+    ASSERT_TRUE(original.seek(0));
+    EXPECT_EQ(original.readAll(), before);
+}
+
 // Switching to the sample printer and back keeps the ticket and leaves no
-// fetched PPD behind; Print then sends the job and saves its ticket.
-TEST_F(PrintDialogTest, PrintOnACupsQueueAfterSwitchingPrintersSendsTheJob)
+// fetched PPD behind; Print then sends the job and saves its ticket. The
+// page setup and range travel as job attributes, the watermark in the
+// document the queue receives.
+TEST_F(PrintDialogTest, PrintOnACupsQueueAfterSwitchingPrintersSendsTheJobAndItsWatermark)
 {
     std::unique_ptr<CupsServer> server;
     ASSERT_NO_FATAL_FAILURE(StartCupsWithSampleQueue(server));
     if (!server)
         return;
-    const QString file = m_home.filePath("report.ps");
-    ASSERT_TRUE(WritePostScriptDocument(file, 3));
+    ASSERT_NO_FATAL_FAILURE(SelectConfidentialWatermark(m_session.printSettings()));
+    const QString file = m_home.filePath("report.pdf");
+    ASSERT_TRUE(WritePdfDocument(file, 4));
     m_session.printSettings().setItem("com.example.editor", "com.example.editor.Title", "Minutes",
                                       true);
     const PrinterEntry queue{.displayName = "Meridian in room 4", .queueName = "Meridian"};
@@ -321,19 +347,17 @@ TEST_F(PrintDialogTest, PrintOnACupsQueueAfterSwitchingPrintersSendsTheJob)
         EXPECT_EQ(m_session.currentPrinter()->queueName, "Meridian");
         fetched = m_session.currentPrinter()->ppdPath;
         ASSERT_TRUE(QFile::exists(fetched));
-        auto* popup = field<QComboBox>(*dialog, "PrinterPopup");
-        popup->setCurrentIndex(1);
-        emit popup->activated(1);
+        choose(*dialog, "PrinterPopup", kSamplePrinterName);
         EXPECT_EQ(m_session.currentPrinter()->ppdPath, SamplePpdPath());
         EXPECT_TRUE(dialog->findChild<QWidget*>("PluginPane"));
         // Back on the queue: a fresh copy of its PPD replaces the first.
-        popup->setCurrentIndex(0);
-        emit popup->activated(0);
+        choose(*dialog, "PrinterPopup", queue.displayName);
         EXPECT_EQ(m_session.currentPrinter()->queueName, "Meridian");
         EXPECT_FALSE(QFile::exists(fetched));
         fetched = m_session.currentPrinter()->ppdPath;
         EXPECT_TRUE(QFile::exists(fetched));
 
+        chooseA4LandscapeTwoUp(*dialog);
         enterCopiesAndPages(*dialog, 2, 2, 3);
         EXPECT_EQ(clickPrint(*dialog), QStringList());
         EXPECT_EQ(dialog->result(), QDialog::Accepted);
@@ -347,13 +371,11 @@ TEST_F(PrintDialogTest, PrintOnACupsQueueAfterSwitchingPrintersSendsTheJob)
     ASSERT_EQ(status.value("job-state"), "completed") << server->errorLog().toStdString();
     EXPECT_EQ(status.value("copies"), "2");
     EXPECT_EQ(status.value("page-ranges"), "2-3");
-    EXPECT_EQ(status.value("job-name"), "report.ps");
-    QFile output(server->outputFile("Meridian"));
-    ASSERT_TRUE(output.open(QIODevice::ReadOnly));
-    const QByteArray printed = output.readAll();
-    EXPECT_FALSE(printed.contains(PageMarker(1)));
-    EXPECT_TRUE(printed.contains(PageMarker(2)) && printed.contains(PageMarker(3)));
-
+    EXPECT_EQ(status.value("job-name"), "report.pdf");
+    EXPECT_EQ(status.value("media-col"), "{media-size={x-dimension=20990 y-dimension=29704}}");
+    EXPECT_EQ(status.value("number-up-layout"), "lrtb");
+    EXPECT_EQ(status.value("multiple-document-handling"), "separate-documents-collated-copies");
+    EXPECT_EQ(status.value("orientation-requested"), "landscape");
     PrintSession saved;
     ASSERT_TRUE(loadTicketFile(options.saveTicketPath, saved));
     EXPECT_EQ(saved.printSettings(), m_session.printSettings());
@@ -362,109 +384,7 @@ TEST_F(PrintDialogTest, PrintOnACupsQueueAfterSwitchingPrintersSendsTheJob)
     for (const auto& [keyword, choice] : saved.printSettings().ppdDictionary().asDictionary())
         EXPECT_EQ(status.value(keyword).compare(choice.toString(), Qt::CaseInsensitive), 0)
             << keyword.toStdString() << " = " << status.value(keyword).toStdString();
-}
 
-// The page setup goes into the tickets where the panels read it (paper
-// rectangle, N-up), and the preview lays the sheets out accordingly.
-TEST_F(PrintDialogTest, PageSetupReachesTheTicketsAndThePreview)
-{
-    const QString file = m_home.filePath("report.pdf");
-    ASSERT_TRUE(WritePdfDocument(file, 5));
-    const auto dialog = makeDialog({SamplePrinter()}, {{file}});
-    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(612, 792));
-    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), false);
-    EXPECT_EQ(m_session.printSettings().string(kJobNameKey), "report.pdf");
-
-    choose(*dialog, "PaperSizePopup", "A4");
-    choose(*dialog, "OrientationPopup", "Landscape");
-    choose(*dialog, "PagesPerSheetPopup", "2");
-    EXPECT_EQ(PaperSizeFromPageFormat(m_session.pageFormat()), QSizeF(595, 842));
-    EXPECT_EQ(m_session.pageFormat().integer(kOrientationKey, NumberType::SInt32),
-              kLandscapeOrientation);
-    EXPECT_EQ(m_session.printSettings().boolean(kLayoutNUpKey), true);
-    EXPECT_TRUE(field<QComboBox>(*dialog, "PageOrderPopup")->isEnabled());
-
-    auto* pane = field<PreviewPane>(*dialog, "PreviewPane");
-    for (int i = 0; i < 50 && pane->spreadCount() != 3; ++i)
-        QSignalSpy(pane, &PreviewPane::spreadShown).wait(200);
-    EXPECT_TRUE(pane->isShowingPages());
-    EXPECT_EQ(field<QLabel>(*dialog, "SheetPositionLabel")->text(), "1 of 3");
-}
-
-// A file that cannot be printed: the preview area says why, and Print is
-// refused with the same reason.
-TEST_F(PrintDialogTest, UnprintableFileIsExplainedInThePreviewAndRefused)
-{
-    const QString file = m_home.filePath("notes.txt");
-    QFile text(file);
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("not a document\n") > 0);
-    text.close();
-    const auto dialog = makeDialog({SamplePrinter()}, {{file}});
-    waitForPreview(*dialog);
-    auto* message = field<QLabel>(*dialog, "PreviewMessage");
-    EXPECT_TRUE(message->isVisible());
-    EXPECT_TRUE(message->text().contains("notes.txt"));
-    const QStringList boxes = clickPrint(*dialog);
-    ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes.first(), message->text());
-    EXPECT_TRUE(dialog->isVisible());
-}
-
-// What a user checks a watermark with before using paper: the saved PDF has
-// half the pages, on landscape A4, each page carrying the watermark; the
-// user's own file stays as it was.
-TEST_F(PrintDialogTest, SaveAsPdfWritesTheSheetsWithTheirWatermark)
-{
-    ASSERT_NO_FATAL_FAILURE(selectWatermark());
-    const QString file = m_home.filePath("report.pdf");
-    ASSERT_TRUE(WritePdfDocument(file, 4));
-    QFile original(file);
-    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
-    const QByteArray before = original.readAll();
-    PrintDialog::Options options{{file}};
-    options.pdfPath = m_home.filePath("saved.pdf");
-    const auto dialog = makeDialog({SamplePrinter()}, options);
-    choose(*dialog, "PrinterPopup", "Save as PDF");
-    chooseA4LandscapeTwoUp(*dialog);
-    EXPECT_EQ(clickPrint(*dialog), QStringList());
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-
-    const auto saved = Poppler::Document::load(options.pdfPath);
-    ASSERT_TRUE(saved);
-    ASSERT_EQ(saved->numPages(), 2);
-    for (int sheet = 0; sheet < 2; ++sheet) {
-        const QSizeF size = saved->page(sheet)->pageSizeF();
-        EXPECT_TRUE(std::abs(size.width() - 842) < 1 && std::abs(size.height() - 595) < 1) << sheet;
-        EXPECT_EQ(saved->page(sheet)->text(QRectF()).count("CONFIDENTIAL"), 2) << sheet;
-    }
-    ASSERT_TRUE(original.seek(0));
-    EXPECT_EQ(original.readAll(), before);
-}
-
-// The same settings on a CUPS queue: the page setup travels as job
-// attributes, the watermark in the document the queue receives.
-TEST_F(PrintDialogTest, PrintOnACupsQueueSendsThePageSetupAndTheWatermark)
-{
-    std::unique_ptr<CupsServer> server;
-    ASSERT_NO_FATAL_FAILURE(StartCupsWithSampleQueue(server));
-    if (!server)
-        return;
-    ASSERT_NO_FATAL_FAILURE(selectWatermark());
-    const QString file = m_home.filePath("report.pdf");
-    ASSERT_TRUE(WritePdfDocument(file, 4));
-    {
-        const auto dialog =
-            makeDialog({{.displayName = "Meridian", .queueName = "Meridian"}}, {{file}});
-        chooseA4LandscapeTwoUp(*dialog);
-        EXPECT_EQ(clickPrint(*dialog), QStringList());
-        EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    }
-    const JobAttributes status = server->waitForJob(1);
-    ASSERT_EQ(status.value("job-state"), "completed") << server->errorLog().toStdString();
-    EXPECT_EQ(status.value("media-col"), "{media-size={x-dimension=20990 y-dimension=29704}}");
-    EXPECT_EQ(status.value("number-up-layout"), "lrtb");
-    EXPECT_EQ(status.value("multiple-document-handling"), "separate-documents-collated-copies");
-    EXPECT_EQ(status.value("orientation-requested"), "landscape");
     // The queue's output drawn by Ghostscript: the watermark is the only red
     // on the sheet, once for each page.
     const QString sheet = m_home.filePath("sheet.png");

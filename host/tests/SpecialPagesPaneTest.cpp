@@ -2,7 +2,6 @@
 // pages (and covers chosen on the Paper/Output tab) go through Print into the
 // saved ticket, and orvan-print's headless run of that ticket keeps them.
 #include "host/PrintDialog.h"
-#include "host/tests/CupsServer.h"
 #include "host/tests/HostTestSupport.h"
 #include "settings/PropertyList.h"
 #include "settings/TicketFile.h"
@@ -11,7 +10,6 @@
 #include "specialpages/tests/SpecialPagesUserSteps.h"
 #include "ui/AlertBox.h"
 
-#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -85,14 +83,9 @@ TEST(SpecialPagesPane, PagesAddedInThePaneReachTheSavedTicketAndTheHeadlessRun)
     EXPECT_EQ(TicketPages(ticket), "front 7x2 7x1 1-1 4-6 10-12");
     EXPECT_EQ(ticket.item(kInsertListKey)->client, kRecordClient);
 
-    QProcess dump;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("CUPS_SERVER", QStringLiteral("127.0.0.1:%1").arg(FreeLoopbackPort()));
-    dump.setProcessEnvironment(environment);
-    dump.start(ORVAN_BINARY_DIR "/bin/orvan-print", {"--dump-ticket", "--ticket", saved});
-    ASSERT_TRUE(dump.waitForFinished(30000));
-    EXPECT_EQ(dump.exitCode(), 0) << dump.readAllStandardError().toStdString();
-    const auto plist = readPropertyList(dump.readAllStandardOutput());
+    const RunResult dump = RunOrvanPrint({"--dump-ticket", "--ticket", saved});
+    EXPECT_EQ(dump.exitCode, 0) << dump.why();
+    const auto plist = readPropertyList(dump.out);
     PrintSession dumped;
     ASSERT_TRUE(plist && sessionFromPropertyList(*plist, dumped));
     for (const QString& key : {kFrontCoverKey, kInsertListKey, kExceptionListKey})

@@ -1,13 +1,12 @@
 // The Advanced panel's about dialog, offscreen. (Its pop-ups' rules are the
 // model's, and the shell's tests drive them through the widgets.)
 #include "imagequality/AdvancedPanel.h"
+#include "imagequality/ProductInfo.h"
 #include "imagequality/tests/PanelTestSupport.h"
+#include "tests/support/WhenShown.h"
 
-#include <QApplication>
-#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QTimer>
 
 namespace orvan {
 namespace {
@@ -17,24 +16,20 @@ TEST(AdvancedPanel, AboutButtonShowsNameVersionAndBuild)
     testing::CurrentPpd ppd;
     PrintSession session;
     QWidget pane;
-    AdvancedPanel panel(&testing::PluginBundle());
+    const Bundle& bundle = testing::PluginBundle();
+    AdvancedPanel panel(&bundle);
     ASSERT_EQ(panel.initialize(&pane, &session), kNoError);
     QStringList shown;
-    QTimer::singleShot(0, [&] {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
+    testing::WhenShown("AboutDialog", [&](QWidget* dialog) {
         shown << dialog->windowTitle() << dialog->findChild<QLabel*>("ProductName")->text()
               << dialog->findChild<QLabel*>("ProductVersion")->text();
-        dialog->accept();
+        qobject_cast<QDialog*>(dialog)->accept();
     });
     pane.findChild<QPushButton*>("AboutButton")->click();
-
-    const PropertyValue& info = testing::PluginBundle().infoDictionary();
-    const auto entry = [&info](const char* key) { return info.find(key)->toString(); };
-    EXPECT_EQ(shown, QStringList({"About " + entry("CFBundleName"), entry("CFBundleName"),
-                                  QStringLiteral("Version %1 (build %2)")
-                                      .arg(entry("CFBundleShortVersionString"),
-                                           entry("CFBundleVersion"))}));
+    const ProductInfo info = ProductInfoFromBundle(&bundle);
+    ASSERT_FALSE(info.name.isEmpty() || info.version.isEmpty() || info.build.isEmpty());
+    EXPECT_EQ(shown, QStringList({"About " + info.name, info.name,
+                                  "Version " + info.version + " (build " + info.build + ")"}));
 }
 
 } // namespace

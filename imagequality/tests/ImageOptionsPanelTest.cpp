@@ -54,7 +54,8 @@ TEST_F(ImageOptionsPanelTest, ReadingShowsTheTicketInTheControlsAndPictures)
 {
     SetPpdChoice(session, "Resolution", "1200x1200dpi");
     SetPpdChoice(session, "QVEconomode", "Draft");
-    testing::SetInvertFlags(session.printSettings(), -1, -1); // negative only above 0
+    testing::SetInvertFlags(session.printSettings(), PropertyValue::integer(0),
+                            PropertyValue::integer(1));
     ASSERT_EQ(panel.sync(&session, true), kNoError);
     EXPECT_EQ(shown(), "0 1 1 1200 dpi");
     EXPECT_TRUE(shows("ResolutionPicture", "ImageOptions_Resolution_1200.png"));

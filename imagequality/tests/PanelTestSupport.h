@@ -76,11 +76,16 @@ inline std::pair<long, long> InvertFlags(const Ticket& ticket)
     return {negative, mirror};
 }
 
-inline void SetInvertFlags(Ticket& ticket, long negative, long mirror)
+// The ticket's invert-image options with these entries; a null value leaves
+// its key out.
+inline void SetInvertFlags(Ticket& ticket, const PropertyValue& negative,
+                           const PropertyValue& mirror)
 {
     PropertyValue options = PropertyValue::dictionary();
-    WriteTicketValue(&options, kNegativeImageKey, negative);
-    WriteTicketValue(&options, kMirrorImageKey, mirror);
+    if (!negative.isNull())
+        options.insert(kNegativeImageKey, negative);
+    if (!mirror.isNull())
+        options.insert(kMirrorImageKey, mirror);
     ticket.setItem(kShellClient, kInvertImageOptionsKey, options);
 }
 

@@ -60,7 +60,6 @@ TEST(PaperOutputShell, FirstTabDrivesTheOkGuardAndShowsFinishing)
         {kJobTypeSecure, nullptr, OkGuardDecision::RefusedSecurePrintPasscode},
         {kJobTypeSecure, "2468", OkGuardDecision::Print},
         {kJobTypeLANFax, nullptr, OkGuardDecision::OpenedFaxSetup},
-        {kJobTypeNormal, nullptr, OkGuardDecision::Print},
     };
     for (const auto& row : rows) {
         SetJobType(session, row.jobType, row.passcode);
@@ -128,9 +127,6 @@ TEST(OrvanPrint, DumpTicketKeepsThePaperOutputItems)
     PropertyValue jobType = PropertyValue::dictionary();
     jobType.insert(kJobTypeValueKey, PropertyValue::integer(kJobTypeSecure, NumberType::SInt32));
     jobType.insert(kSecurePrintPasswordKey, QStringLiteral("0012"));
-    jobType.insert(kSaveDispositionKey, PropertyValue::integer(1));
-    jobType.insert(kUseJobNameKey, PropertyValue::boolean(true));
-    jobType.insert(kSavedJobNameKey, QStringLiteral("dropped"));
     jobType.insert(kDelayedPrintTimeKey, PropertyValue::integer(3900000000LL, NumberType::SInt64));
     ticket.setItem(kPanelClient, kJobTypeKey, jobType);
     const std::pair<QString, PropertyValue> items[] = {
@@ -183,8 +179,6 @@ TEST(OrvanPrint, DumpTicketKeepsThePaperOutputItems)
     EXPECT_EQ(jobTypeOut->find(kJobTypeValueKey)->toInteger(), kJobTypeSecure);
     EXPECT_EQ(jobTypeOut->find(kSecurePrintPasswordKey)->toString(), "0012");
     EXPECT_EQ(jobTypeOut->find(kDelayedPrintTimeKey)->toInteger(), 3900000000LL);
-    EXPECT_FALSE(jobTypeOut->contains(kSaveDispositionKey));
-    EXPECT_FALSE(jobTypeOut->contains(kSavedJobNameKey));
     for (const auto& [keyword, choice] :
          {std::pair{"QVPunch", "3HolePunch"}, std::pair{"OutputBin", "Top"},
           std::pair{"MediaColor", "Blue"}, std::pair{"Duplex", "DuplexTumble"},

@@ -50,7 +50,7 @@ inline constexpr _InstalledFeatureMap kFinisherFeatures[] = {
 };
 
 // A finisher PPD whose installable options have the given defaults, loaded
-// with kFinisherFeatures (or the given table) for the guard's lifetime.
+// with kFinisherFeatures for the guard's lifetime.
 class FinisherPpd
 {
 public:
@@ -60,8 +60,7 @@ public:
         bool staples = false, punch = false, folder = false, inserter = false;
     };
 
-    explicit FinisherPpd(const Hardware& hardware,
-                         const _InstalledFeatureMap* table = kFinisherFeatures)
+    explicit FinisherPpd(const Hardware& hardware)
     {
         const auto on = [](bool value) { return QString::fromLatin1(value ? "True" : "False"); };
         QString text = QStringLiteral(R"PPD(*PPD-Adobe: "4.3"
@@ -104,7 +103,7 @@ public:
         QString error;
         const PpdFilePtr ppd = OpenPPDFile(file.fileName(), &error);
         EXPECT_TRUE(ppd) << error.toStdString();
-        LoadInstallableOptions(ppd.get(), table);
+        LoadInstallableOptions(ppd.get(), kFinisherFeatures);
     }
     ~FinisherPpd() { UnloadInstallableOptions(); }
     FinisherPpd(const FinisherPpd&) = delete;

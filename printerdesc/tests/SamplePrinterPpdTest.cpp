@@ -47,18 +47,23 @@ TEST(SamplePrinterPpd, EveryMainKeywordOffersItsMapsChoices)
     }
 }
 
+// Stapling, punching and folding need the finisher; the defaults need nothing.
 TEST(SamplePrinterPpd, DefaultsAreConflictFreeAndFinishingNeedsTheFinisher)
 {
     PpdFilePtr ppd = OpenOrFail(kSamplePpd);
     PpdMarkDefaults(ppd.get());
-    EXPECT_EQ(PpdMarkOption(ppd.get(), "StapleLocation", "DualLandscape"), 0);
-    EXPECT_GT(PpdMarkOption(ppd.get(), "Option4", "False"), 0) << "staples without the finisher";
+    EXPECT_EQ(PpdMarkOption(ppd.get(), "StapleLocation", "DualLandscape"), 0) << "with it";
     EXPECT_EQ(PpdMarkOption(ppd.get(), "StapleLocation", "None"), 0);
-    for (const char* choice : {"HolePunch", "2HolePunch", "3HolePunch", "4HolePunch"})
-        EXPECT_GT(PpdMarkOption(ppd.get(), "QVPunch", choice), 0) << choice;
-    EXPECT_EQ(PpdMarkOption(ppd.get(), "QVPunch", "None"), 0);
-    for (const char* choice : {"C", "Z", "ZFoldHalfSheet", "BiFold", "BiFoldStaple"})
-        EXPECT_GT(PpdMarkOption(ppd.get(), "QVFold", choice), 0) << choice;
+    EXPECT_EQ(PpdMarkOption(ppd.get(), "Option4", "False"), 0);
+    const std::pair<const char*, const char*> finishing[] = {{"StapleLocation", "DualLandscape"},
+                                                             {"QVPunch", "2HolePunch"},
+                                                             {"QVPunch", "4HolePunch"},
+                                                             {"QVFold", "Z"},
+                                                             {"QVFold", "BiFoldStaple"}};
+    for (const auto& [keyword, choice] : finishing) {
+        EXPECT_GT(PpdMarkOption(ppd.get(), keyword, choice), 0) << choice;
+        EXPECT_EQ(PpdMarkOption(ppd.get(), keyword, "None"), 0) << keyword;
+    }
 }
 
 } // namespace

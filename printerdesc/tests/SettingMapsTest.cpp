@@ -1,9 +1,8 @@
-// Setting maps: row counts and texts, the lookups by item and by value with
-// their gates, menus built from them, and input history in menus.
+// Setting maps: their texts, the lookups by item and by value with their
+// gates, menus built from them, and input history in menus.
 #include "PpdTestSupport.h"
 
 #include "settings/Bundle.h"
-#include "settings/Preferences.h"
 #include "settings/SettingMapAccess.h"
 #include "settings/SettingMaps.h"
 
@@ -21,54 +20,25 @@ using testing::InstalledOptionsGuard;
 using testing::kSamplePpd;
 using testing::WriteSampleVariant;
 
-struct NamedMap
-{
-    const char* name;
-    const _SettingMap* map;
-    int rows;
-};
-#define MAP(table, rows)                                                                           \
-    NamedMap                                                                                       \
-    {                                                                                              \
-#table, table, rows                                                                        \
-    }
-
-QStringList textsOf(const MenuModel& menu)
-{
-    QStringList texts;
-    for (const MenuItem& item : menu.items())
-        texts << item.text;
-    return texts;
-}
-
-// clang-format off
-const NamedMap kSettingMaps[] = {
-    MAP(_BookletLayoutOrderMap, 2), MAP(_RotateImageMap, 3), MAP(_OutputOptionsMap, 2),
-    MAP(_PrinterEmulationMap, 3), MAP(_OPISubsitutionMap, 3), MAP(_OPIPrescanMap, 4),
-    MAP(_OnOffMap, 2), MAP(_WatermarkMap, 6), MAP(_WatermarkOptionsMap, 6),
-    MAP(_EnabledDisabledMap, 2), MAP(_PageBordersMap, 2), MAP(_BookletWatermarkBackgroundFormsMap, 3),
-    MAP(_CoverSheetMap, 2), MAP(_ConfirmationSheetMap, 2), MAP(_FaxSendSpeedMap, 3),
-    MAP(_FaxResolutionMap, 3), MAP(_CoverSheetImageMap, 6), MAP(_CoverSheetSenderMap, 2),
-    MAP(_CoverSheetRecipientMap, 3), MAP(_TabStockRadioMap, 2), MAP(_TabStockSetupMap, 4),
-    MAP(_PrintQualityMap, 2), MAP(_PrintingOptimizationMap, 2), MAP(_AdvancedMirrorImageMap, 2),
-    MAP(_CoverSidesSimplexImagedMap, 2), MAP(_CoverSidesDuplexImagedMap, 2), MAP(_CoverSidesImagedMap, 2),
-    MAP(_FolderNameMap, 1), MAP(_SavedJobSaveOptionRadioMap, 2), MAP(_JobNameMap, 1),
-    MAP(_LoginNameMap, 1), MAP(_PlexMap, 3), MAP(_ResolutionMap, 1),
-    MAP(_JobTypeMap, 6), MAP(_SeparatorOptionMap, 3), MAP(_FaxCoverSizeMap, 2),
-};
-// clang-format on
-
-// The counts catch a row lost or added; the terminator's value 0 is what ends
-// a search by value. Every key must have an English text.
-TEST(SettingMaps, RowCountsTerminatorsAndTexts)
+// Every key a menu shows has an English text.
+TEST(SettingMaps, EveryKeyHasAText)
 {
     const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
-    for (const NamedMap& entry : kSettingMaps) {
-        EXPECT_EQ(CountMaps(entry.map), entry.rows) << entry.name;
-        EXPECT_EQ(entry.map[entry.rows].ticketValue, 0) << entry.name;
-        for (const _SettingMap* row = entry.map; row->key; ++row)
-            EXPECT_TRUE(bundle.localizedString(row->key)) << entry.name << ": " << row->key;
-    }
+    // clang-format off
+    const _SettingMap* const maps[] = {
+        _BookletLayoutOrderMap, _RotateImageMap, _OutputOptionsMap, _PrinterEmulationMap,
+        _OPISubsitutionMap, _OPIPrescanMap, _OnOffMap, _WatermarkMap, _WatermarkOptionsMap,
+        _EnabledDisabledMap, _PageBordersMap, _BookletWatermarkBackgroundFormsMap, _CoverSheetMap,
+        _ConfirmationSheetMap, _FaxSendSpeedMap, _FaxResolutionMap, _CoverSheetImageMap,
+        _CoverSheetSenderMap, _CoverSheetRecipientMap, _TabStockRadioMap, _TabStockSetupMap,
+        _PrintQualityMap, _PrintingOptimizationMap, _AdvancedMirrorImageMap,
+        _CoverSidesSimplexImagedMap, _CoverSidesDuplexImagedMap, _CoverSidesImagedMap,
+        _FolderNameMap, _SavedJobSaveOptionRadioMap, _JobNameMap, _LoginNameMap, _PlexMap,
+        _ResolutionMap, _JobTypeMap, _SeparatorOptionMap, _FaxCoverSizeMap};
+    // clang-format on
+    for (const _SettingMap* map : maps)
+        for (const _SettingMap* row = map; row->key; ++row)
+            EXPECT_TRUE(bundle.localizedString(row->key)) << row->key;
     for (const char* key : {"PrinterDefault", "UseJobSetting"})
         EXPECT_TRUE(bundle.localizedString(key)) << key;
     for (const _InstalledFeatureMap* row = _InstalledFeatures; row->featureKey; ++row)
@@ -87,13 +57,8 @@ TEST(SettingMapLookup, ScanRules)
         {"no such value", _PlexMap, 9, -1, nullptr},
         {"0 sought, no zero row", _PlexMap, 0, -1, nullptr},
         {"a separator counts as an item", _WatermarkOptionsMap, 4, 5, "WatermarkPrintOnAllPages"},
-        {"the separator's own value", _WatermarkOptionsMap, -5, 4, "-"},
-        {"first row 0 answers any value", _OutputOptionsMap, 1, 1, "Face Down"},
-        {"first row 0, value absent", _OutputOptionsMap, 77, 1, "Face Down"},
-        {"both rows 0", _SavedJobSaveOptionRadioMap, 0, 1, "Save"},
+        {"first row 0 answers any value", _OutputOptionsMap, 77, 1, "Face Down"},
         {"same value in every row: the first wins", _OPIPrescanMap, qujn, 1, "PrinterDefault"},
-        {"duplicate keys across maps", _CoverSidesDuplexImagedMap, 1, 2, "CoverBlankorPreprinted"},
-        {"action rows are negative", _CoverSheetImageMap, -8, 5, "Edit..."},
         {"a value-0 row ends the search", zeroInTheMiddle, 2, 2, "Stop"},
         {"rows before it still match", zeroInTheMiddle, 1, 1, "One"},
         // clang-format on
@@ -102,9 +67,7 @@ TEST(SettingMapLookup, ScanRules)
         EXPECT_EQ(TicketToUI(map, value), item) << what;
         EXPECT_STREQ(LocalizedKeyForTicketValue(map, value), key) << what;
     }
-    EXPECT_EQ(UIToTicket(_PlexMap, 3), 3);
     EXPECT_EQ(UIToTicket(_JobTypeMap, 5), 3) << "no gating by item";
-    EXPECT_EQ(UIToTicket(_WatermarkMap, 2), -5);
 }
 
 // A gated row counts only when its installed option is in the row's state; a
@@ -121,11 +84,9 @@ TEST(SettingMapLookup, GatesFollowTheInstalledOptions)
         cases[] = {
             // clang-format off
         {"job storage installed", kSamplePpd, _JobTypeMap, 3, 5, "SavedJob"},
-        {"fax after it", kSamplePpd, _JobTypeMap, 5, 6, "Fax"},
         {"no job storage: the terminator follows", noStorage, _JobTypeMap, 3, -1, nullptr},
         {"a closed gate does not hide the fax row", noStorage, _JobTypeMap, 5, 6, "Fax"},
         {"nothing loaded", {}, _JobTypeMap, 3, -1, nullptr},
-        {"nothing loaded, ungated row", {}, _JobTypeMap, 7, 4, "DelayedPrint"},
         {"gate closed: the later row", {}, gated, 3, 2, "Fallback"},
         {"state 0 shows when the feature is absent", {}, gated, 4, 3, "NeedsMissing"},
         {"gate open: the gated row", kSamplePpd, gated, 3, 1, "Gated"},
@@ -156,7 +117,8 @@ TEST(MapMenus, ItemsFromEveryKindOfRow)
     InstalledOptionsGuard nothingInstalled;
     MenuModel menu;
     menu.append({"kept", 0, 0, false});
-    // The gated row is visited, and so counted, but left out; items are appended.
+    // The gated row is visited, and so counted, but left out (kept so); items
+    // are appended.
     EXPECT_EQ(PopulateMenuFromMap(&bundle, menu, kRowKinds, 0, 0), 5);
     EXPECT_EQ(menu.sourceMap(), kRowKinds);
     EXPECT_EQ(menu.items(), (std::vector<MenuItem>{{"kept", 0, 0, false},
@@ -164,36 +126,21 @@ TEST(MapMenus, ItemsFromEveryKindOfRow)
                                                    {"-", 0, -5, true},
                                                    {"Printer Default", 0, kUnset, false},
                                                    {kStringNotFound, 0, 2, false}}));
-    // The pop-up form starts afresh; an override replaces every command.
-    EXPECT_EQ(PopulatePopupMenuFromMap(&bundle, menu, kRowKinds, 0, kOverride), 5);
+    // The pop-up form starts afresh; an override replaces every command; any
+    // context but the job's names the default row "Use Job Setting".
+    EXPECT_EQ(PopulatePopupMenuFromMap(&bundle, menu, kRowKinds, 3, kOverride), 5);
     ASSERT_EQ(menu.count(), 4);
     for (const MenuItem& item : menu.items())
         EXPECT_EQ(item.commandId, kOverride);
-    // Any context but the job's names the default row "Use Job Setting".
-    for (int context : {1, 2, 3, 4}) {
-        PopulatePopupMenuFromMap(&bundle, menu, kRowKinds, context, 0);
-        EXPECT_EQ(menu.item(3)->text, "Use Job Setting") << context;
-    }
+    EXPECT_EQ(menu.item(3)->text, "Use Job Setting");
     constexpr _SettingMap empty[] = {{}};
     EXPECT_EQ(PopulatePopupMenuFromMap(&bundle, menu, empty, 0, 0), 0);
     EXPECT_TRUE(menu.isEmpty());
     EXPECT_EQ(menu.sourceMap(), empty);
-    PopulateMenuFromMap(nullptr, menu, _PlexMap, 0, 0);
-    EXPECT_EQ(menu.item(1)->text, kStringNotFound);
 }
 
-TEST(MapMenus, JobTypesWithoutStorageOrFaxKeepTheirCount)
-{
-    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
-    QTemporaryDir folder;
-    InstalledOptionsGuard neither(
-        WriteSampleVariant(folder, {{"Option8", "False"}, {"Option5", "False"}}));
-    MenuModel menu;
-    EXPECT_EQ(PopulateMenuFromMap(&bundle, menu, _JobTypeMap, 0, 0), 6);
-    EXPECT_EQ(textsOf(menu),
-              (QStringList{"Normal Print", "Secure Print", "Sample Set", "Delayed Print"}));
-}
-
+// Each history entry goes after a position that every element moves on,
+// null ones too.
 TEST(MapMenus, HistoryPositionsGrowForNullElementsToo)
 {
     MenuModel menu;
@@ -202,36 +149,13 @@ TEST(MapMenus, HistoryPositionsGrowForNullElementsToo)
     PropertyValue history = PropertyValue::array();
     for (const PropertyValue& element : {PropertyValue("A"), PropertyValue(), PropertyValue("B")})
         history.append(element);
-    constexpr std::uint32_t kHistory = FourCharCode("Hist");
-    // "A" after item 3; the null moves the position on; "B" after item 5.
-    EXPECT_EQ(InsertHistoryIntoMenu(menu, history, 3, kHistory, 4), 6);
-    EXPECT_EQ(textsOf(menu), (QStringList{"1", "2", "3", "A", "4", "B"}));
-    EXPECT_EQ(menu.item(4)->commandId, kHistory);
-
-    MenuModel untouched;
-    EXPECT_EQ(InsertHistoryIntoMenu(untouched, PropertyValue("not an array"), 0, 0, 7), 7);
-    EXPECT_TRUE(untouched.isEmpty());
-}
-
-TEST(MapMenus, HistoryComesFromTheUsersInputHistoryFile)
-{
-    QTemporaryDir config;
-    qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
-    PropertyValue names = PropertyValue::array(), file = PropertyValue::dictionary();
-    names.append(PropertyValue("Quarterly report"));
-    names.append(PropertyValue("Minutes"));
-    file.insert("JobName", names);
-    ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
-
-    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
-    MenuModel menu;
-    menu.append({"stale", 0, 0, false});
-    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0, "JobName", 1, 0, 0),
-              3);
-    EXPECT_EQ(textsOf(menu), (QStringList{"Use Job Name", "Quarterly report", "Minutes"}));
-    EXPECT_EQ(PopulatePopupMenuFromMapAndHistory(&bundle, menu, _JobNameMap, 0, "Absent", 1, 0, 0),
-              1);
-    qunsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(InsertHistoryIntoMenu(menu, history, 3, 0, 4), 6);
+    QStringList texts;
+    for (const MenuItem& item : menu.items())
+        texts << item.text;
+    EXPECT_EQ(texts, (QStringList{"1", "2", "3", "A", "4", "B"}));
+    EXPECT_EQ(InsertHistoryIntoMenu(menu, PropertyValue("not an array"), 0, 0, 7), 7);
+    EXPECT_EQ(menu.count(), 6);
 }
 
 } // namespace

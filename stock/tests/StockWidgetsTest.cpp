@@ -6,6 +6,7 @@
 #include "stock/StockButton.h"
 #include "stock/StockDescriptionDialog.h"
 #include "stock/StockIconView.h"
+#include "tests/support/WhenShown.h"
 #include "ui/Help.h"
 #include "ui/PopupMenus.h"
 
@@ -33,23 +34,7 @@ template <typename Widget> Widget* Child(const QObject* parent, const char* name
     return child;
 }
 
-// Runs `step` on the visible top-level widget with that object name once a
-// modal dialog's event loop runs; a dialog still open after five seconds is
-// rejected so that a failing test cannot hang.
-void WhenShown(const QString& objectName, std::function<void(QWidget*)> step)
-{
-    QTimer::singleShot(0, [objectName, step] {
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (widget->objectName() == objectName && widget->isVisible())
-                return step(widget);
-        ADD_FAILURE() << "no visible " << objectName.toStdString();
-    });
-    QTimer::singleShot(5000, [] {
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* dialog = qobject_cast<QDialog*>(widget); dialog && dialog->isVisible())
-                dialog->reject();
-    });
-}
+using testing::WhenShown;
 
 // Triggers the menu's item for the command and value; false when there is none.
 bool Choose(const QMenu* menu, std::uint32_t command, std::int32_t value)

@@ -1,26 +1,17 @@
-// Pop-up buttons and menus filled from setting maps and input histories.
+// Pop-up buttons and menus filled from setting maps, input histories and PPD
+// options: the widgets mirror the menu model (whose rules the setting map
+// tests pin) with values, commands, separators and the maximum.
 #include "ui/PopupMenus.h"
 
 #include "printerdesc/PpdFile.h"
-#include "settings/Bundle.h"
-#include "settings/Preferences.h"
-#include "settings/SettingMapAccess.h"
+#include "ui/tests/XComboBoxTestSupport.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QMenu>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-using namespace orvan;
-
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
-
+namespace orvan {
 namespace {
 
 constexpr std::uint32_t kChooseCommand = FourCharCode("Qcho");
@@ -36,13 +27,10 @@ constexpr _SettingMap kMenuMap[] = {
     {nullptr, 0, 0, nullptr, 0},
 };
 
-class PopupMenusTest : public ::testing::Test
+class PopupMenusTest : public testing::XComboBoxFixture
 {
 protected:
-    void SetUp() override { qputenv("XDG_CONFIG_HOME", m_dir.path().toUtf8()); }
-    void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
-
-    // The items as "text value command" (the command's last three letters).
+    // The items as "text value command" (the history command as "his").
     static QString items(const QComboBox& popup)
     {
         QStringList rows;
@@ -50,60 +38,31 @@ protected:
             const std::int32_t value = PopupButtonItemTicketValue(&popup, i);
             const std::uint32_t command = PopupButtonItemCommand(&popup, i);
             rows << popup.itemText(i) + ' ' + (value == kUnset ? "unset" : QString::number(value)) +
-                        ' ' +
-                        (command == kChooseCommand    ? "cho"
-                         : command == kHistoryCommand ? "his"
-                                                      : QString::number(command));
+                        ' ' + (command == kHistoryCommand ? "his" : QString::number(command != 0));
         }
         return rows.join(", ");
     }
-
-    QTemporaryDir m_dir;
-    Bundle m_bundle{ORVAN_PLUGIN_DIR, "en"};
 };
 
-TEST_F(PopupMenusTest, PopupsMirrorTheMapWithValuesCommandsAndHistories)
+TEST_F(PopupMenusTest, PopupsMirrorTheMapAndTheHistory)
 {
-    PropertyValue file = PropertyValue::dictionary();
-    file.insert("Names", PropertyArray{"A", PropertyValue::integer(5), "B"});
-    ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
-    // Map rows, job context, history key and the row each entry follows,
-    // command override; the count (with the gated-out row), the items.
-    const struct
-    {
-        int context;
-        const char* history;
-        std::uint32_t command;
-        int count;
-        const char* items;
-    } cases[] = {
-        // clang-format off
-        {2, nullptr, 0, 5, "Printer Default 1 cho,  -5 0, STRING NOT FOUND 4 0, Use Job Setting unset 0"},
-        // The override replaces every row's command; the default row at context 0.
-        {0, nullptr, kHistoryCommand, 5,
-         "Printer Default 1 his,  -5 his, STRING NOT FOUND 4 his, Printer Default unset his"},
-        // History entries after their positions; only text entries count.
-        {0, "Names", 0, 7,
-         "Printer Default 1 cho, A 0 his,  -5 0, B 0 his, STRING NOT FOUND 4 0, Printer Default unset 0"},
-        {0, "None", 0, 5, "Printer Default 1 cho,  -5 0, STRING NOT FOUND 4 0, Printer Default unset 0"},
-        // clang-format on
-    };
-    for (const auto& c : cases) {
-        QComboBox popup;
-        popup.addItem("left over");
-        const int count =
-            c.history
-                ? PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, c.context,
-                                                       c.history, 1, kHistoryCommand, 0)
-                : PopulatePopupButtonFromMap(&m_bundle, &popup, kMenuMap, c.context, c.command);
-        EXPECT_EQ(count, c.count);
-        EXPECT_EQ(PopupButtonMaximum(&popup), c.count);
-        EXPECT_EQ(MenuSourceMap(&popup), kMenuMap);
-        EXPECT_EQ(items(popup), c.items);
-        if (!c.history) // the separator
-            EXPECT_FALSE(popup.model()->flags(popup.model()->index(1, 0)) & Qt::ItemIsSelectable);
-    }
     QComboBox popup;
+    popup.addItem("left over");
+    EXPECT_EQ(PopulatePopupButtonFromMap(&m_bundle, &popup, kMenuMap, 2, 0), 5);
+    EXPECT_EQ(PopupButtonMaximum(&popup), 5);
+    EXPECT_EQ(MenuSourceMap(&popup), kMenuMap);
+    EXPECT_EQ(items(popup),
+              "Printer Default 1 1,  -5 0, STRING NOT FOUND 4 0, Use Job Setting unset 0");
+    EXPECT_FALSE(popup.model()->flags(popup.model()->index(1, 0)) & Qt::ItemIsSelectable);
+
+    // History entries after their positions; only text entries count.
+    writeHistory("Names", PropertyArray{"A", PropertyValue::integer(5), "B"});
+    EXPECT_EQ(PopulatePopupButtonFromMapAndHistory(&m_bundle, &popup, kMenuMap, 0, "Names", 1,
+                                                   kHistoryCommand, 0),
+              7);
+    EXPECT_EQ(PopupButtonMaximum(&popup), 7);
+    EXPECT_EQ(items(popup), "Printer Default 1 1, A 0 his,  -5 0, B 0 his, STRING NOT FOUND 4 0, "
+                            "Printer Default unset 0");
     EXPECT_EQ(PopupButtonItemCommand(&popup, 9), 0u);
     EXPECT_EQ(PopulatePopupButtonFromMap(&m_bundle, nullptr, kMenuMap, 0, 0), 0);
 }
@@ -133,13 +92,11 @@ TEST_F(PopupMenusTest, SelectionByTicketValueLeavesTheSelectionWhenNoItemMatches
     EXPECT_FALSE(SetPopupButtonToTicketValue(&popup, 99));
     EXPECT_EQ(popup.currentIndex(), 2);
     EXPECT_EQ(changes.count(), 1);
-
     EXPECT_FALSE(SetPopupButtonToTicketValue(nullptr, 1));
     EXPECT_EQ(GetPopupButtonTicketValue(nullptr), 0);
-    QComboBox empty;
-    EXPECT_EQ(GetPopupButtonTicketValue(&empty), 0);
 }
 
+// A menu gets the items appended, with separators and each item's data.
 TEST_F(PopupMenusTest, MenuActionsAreAppendedWithValueAndCommand)
 {
     QMenu menu;
@@ -147,14 +104,13 @@ TEST_F(PopupMenusTest, MenuActionsAreAppendedWithValueAndCommand)
     EXPECT_EQ(PopulateMenuFromMap(&m_bundle, &menu, kMenuMap, 0, 0), 5);
     EXPECT_EQ(MenuSourceMap(&menu), kMenuMap);
     QStringList actions;
-    for (const QAction* action : menu.actions()) {
-        const MenuActionData data = MenuActionDataOf(action);
+    for (const QAction* action : menu.actions())
         actions << (action->isSeparator() ? "-" : action->text()) + ' ' +
-                       QString::number(data.ticketValue) +
-                       (data.commandId == kChooseCommand ? " cho" : "");
-    }
-    EXPECT_EQ(actions, QStringList({"kept 0", "Printer Default 1 cho", "- -5", "STRING NOT FOUND 4",
+                       QString::number(MenuActionDataOf(action).ticketValue);
+    EXPECT_EQ(actions, QStringList({"kept 0", "Printer Default 1", "- -5", "STRING NOT FOUND 4",
                                     "Printer Default " + QString::number(kUnset)}));
+    EXPECT_EQ(MenuActionDataOf(menu.actions()[1]).commandId, kChooseCommand);
 }
 
 } // namespace
+} // namespace orvan

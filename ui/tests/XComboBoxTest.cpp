@@ -2,57 +2,25 @@
 // the field, showing and reading values, recording and setting up again. What
 // is valid and what is recorded are the model's (see its tests).
 #include "ui/XComboBox.h"
-
-#include "settings/Bundle.h"
-#include "settings/Preferences.h"
+#include "ui/tests/XComboBoxTestSupport.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
-using namespace orvan;
-
+namespace orvan {
 namespace {
 
-constexpr _SettingMap kNameMap[] = {{"UseJobSetting", 7, 0, nullptr, 0},
-                                    {nullptr, 0, 0, nullptr, 0}};
-
-class XComboBoxTest : public ::testing::Test
+class XComboBoxTest : public testing::XComboBoxFixture
 {
 protected:
-    void SetUp() override { qputenv("XDG_CONFIG_HOME", m_dir.path().toUtf8()); }
-    void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
-
-    _XComboBoxOptions numberOptions(std::int32_t minimum, std::int32_t maximum) const
-    {
-        return {.kind = XComboBoxKind::Number,
-                .bundle = &m_bundle,
-                .map = kNameMap,
-                .historyKey = "Copies",
-                .minimum = minimum,
-                .maximum = maximum};
-    }
-    _XComboBoxOptions textOptions() const
-    {
-        return {.bundle = &m_bundle,
-                .map = kNameMap,
-                .historyKey = "JobName",
-                .historyLimit = 2,
-                .secondLimit = 10};
-    }
     static void typeInto(QComboBox& box, const QString& text)
     {
         box.lineEdit()->clear();
         QTest::keyClicks(box.lineEdit(), text);
     }
-
-    QTemporaryDir m_dir;
-    Bundle m_bundle{ORVAN_PLUGIN_DIR, "en"};
 };
 
 TEST_F(XComboBoxTest, NumberBoxLimitsTypingAndClampsOnLeavingTheField)
@@ -100,16 +68,14 @@ TEST_F(XComboBoxTest, SettingAValueShowsItsText)
 // its model.
 TEST_F(XComboBoxTest, FinalisingWithSaveRecordsTheText)
 {
-    PropertyValue file = PropertyValue::dictionary();
-    file.insert("JobName", PropertyArray{"Memo"});
-    ASSERT_TRUE(WriteUserPreferences(kInputHistoryFileName, file));
+    writeHistory("JobName", PropertyArray{"Memo"});
     for (bool save : {false, true}) {
         QComboBox box;
         XComboBoxInitializeWithMapAndHistory(&box, textOptions());
         typeInto(box, "Letter");
         XComboBoxFinalize(&box, save);
         EXPECT_EQ(XComboBoxModelOf(&box), nullptr);
-        EXPECT_EQ(*CopyUserPreferences(kInputHistoryFileName)->find("JobName"),
+        EXPECT_EQ(storedHistory("JobName"),
                   (save ? PropertyArray{"Letter", "Memo"} : PropertyArray{"Memo"}));
     }
 }
@@ -122,7 +88,6 @@ TEST_F(XComboBoxTest, SettingUpAgainReplacesTheModel)
     const auto children = box.findChildren<QObject*>(Qt::FindDirectChildrenOnly).size();
     XComboBoxInitializeWithMapAndHistory(&box, numberOptions(0, 99));
     ASSERT_NE(XComboBoxModelOf(&box), nullptr);
-    EXPECT_EQ(XComboBoxModelOf(&box)->options().kind, XComboBoxKind::Number);
     EXPECT_EQ(box.findChildren<QObject*>(Qt::FindDirectChildrenOnly).size(), children);
     EXPECT_EQ(box.lineEdit()->findChildren<QValidator*>().size(), 1);
     typeInto(box, "1234");
@@ -130,3 +95,4 @@ TEST_F(XComboBoxTest, SettingUpAgainReplacesTheModel)
 }
 
 } // namespace
+} // namespace orvan

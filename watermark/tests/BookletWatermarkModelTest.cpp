@@ -180,26 +180,6 @@ TEST_F(BookletWatermarkModelTest, NewEditAndDeleteKeepMenuListAndFileInStep)
     EXPECT_EQ(model.chooseWatermarkItem(itemNamed("New…")), WatermarkPanelAction::RunNewEditor);
 }
 
-TEST_F(BookletWatermarkModelTest, WritingATextWatermarkStoresItsGlyphsAndSubsetFont)
-{
-    addText("Internal");
-    model.chooseOptionsItem(3); // foreground
-    model.chooseOptionsItem(6); // first page only
-    Ticket ticket;
-    ASSERT_EQ(model.syncToTicket(ticket), kNoError);
-    EXPECT_EQ(ticket.string(kWatermarkTicketKey), "Internal");
-    EXPECT_EQ(ticket.integer(kWatermarkOptionTicketKey, NumberType::SInt32), 3);
-    EXPECT_EQ(ticket.integer(kWatermarkFirstPageOnlyTicketKey, NumberType::SInt32), 1);
-    EXPECT_EQ(ticket.string(kWatermarkSubsetFontNameTicketKey), "QV-ArialMT-QV");
-    _WatermarkData stored;
-    ASSERT_TRUE(loadWatermarkData(kWatermarkFile, "Internal", stored));
-    EXPECT_EQ(stored.glyphCount, 8);
-    EXPECT_GT(stored.xPos, 0);
-    QByteArray program;
-    loadFontData(kWatermarkFile, "QV-ArialMT-QV", program);
-    EXPECT_TRUE(program.startsWith("%!PS-TrueTypeFont"));
-}
-
 TEST(WatermarkEditorModel, OffsetBoundsFollowThePage)
 {
     struct Row

@@ -7,41 +7,23 @@
 #include "settings/TicketFile.h"
 #include "shell/PDEShell.h"
 #include "watermark/BookletWatermarkModel.h"
-#include "watermark/WatermarkStore.h"
 #include "watermark/WatermarkTicket.h"
+#include "watermark/tests/WatermarkTestSupport.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
-#include <QProcess>
 #include <QPushButton>
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <QTimer>
-
-#include <gtest/gtest.h>
 
 namespace orvan {
 namespace {
 
+using BookletWatermarkShellTest = test::WatermarkFileTest;
+
 const QString kSamplePpd = ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd";
-
-// Every test gets a watermark file of its own.
-class BookletWatermarkShellTest : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(m_dir.isValid());
-        m_previous = qgetenv("ORVAN_SHARED_DATA_DIR");
-        qputenv("ORVAN_SHARED_DATA_DIR", m_dir.path().toUtf8());
-    }
-    void TearDown() override { qputenv("ORVAN_SHARED_DATA_DIR", m_previous); }
-
-    QTemporaryDir m_dir;
-    QByteArray m_previous;
-};
 
 // The share of pixels that are clearly blue (the default watermarks' colour).
 double BlueShare(const QImage& image)
@@ -96,24 +78,6 @@ TEST_F(BookletWatermarkShellTest, ThirdTabPreviewsTheTicketsWatermarkAndOpensBoo
     EXPECT_EQ(plugin->terminate(kNoError), kNoError);
 }
 
-// Ghostscript's text of a page showing codes 0 to count - 1 of the font
-// program `program` named `fontName`.
-QString ExtractedText(const QByteArray& program, const QString& fontName, int count)
-{
-    QByteArray codes;
-    for (int code = 0; code < count; ++code)
-        codes += QByteArray::number(code, 16).rightJustified(2, '0');
-    QProcess gs;
-    gs.start("gs",
-             {"-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-sDEVICE=txtwrite", "-sOutputFile=-", "-"});
-    gs.write(program + "\n/" + fontName.toUtf8() +
-             " findfont 48 scalefont setfont 72 400 moveto <" + codes + "> show showpage\n");
-    gs.closeWriteChannel();
-    if (!gs.waitForFinished(30000) || gs.exitCode() != 0)
-        return "gs failed: " + QString::fromUtf8(gs.readAllStandardError());
-    return QString::fromUtf8(gs.readAllStandardOutput()).trimmed();
-}
-
 TEST_F(BookletWatermarkShellTest, HeadlessRunWritesTheWatermarkWithItsGlyphsAndFont)
 {
     PrintSession in;
@@ -151,7 +115,7 @@ TEST_F(BookletWatermarkShellTest, HeadlessRunWritesTheWatermarkWithItsGlyphsAndF
     EXPECT_EQ(record.glyphCount, 5);
     QByteArray program;
     loadFontData(kWatermarkFile, *subset, program);
-    EXPECT_EQ(ExtractedText(program, *subset, record.glyphCount), "Draft");
+    EXPECT_EQ(test::GhostscriptText(program, *subset, record.glyphCount), "Draft");
 }
 
 } // namespace

@@ -5,39 +5,13 @@
 
 #include "settings/SystemVersion.h"
 
-#include <QProcess>
-#include <QRegularExpression>
-
 using namespace orvan;
 using namespace orvan::test;
 
-namespace {
-
 using FontProgramTest = WatermarkFileTest;
 
-// The text Ghostscript extracts from a page that shows codes 0..count-1 of
-// the font program `program` (its name `fontName`).
-QString extractedText(const QByteArray& program, const QString& fontName, int count)
-{
-    QByteArray codes;
-    for (int code = 0; code < count; ++code)
-        codes += QByteArray::number(code, 16).rightJustified(2, '0');
-    const QByteArray page = "/" + fontName.toUtf8() +
-                            " findfont 48 scalefont setfont\n"
-                            "72 400 moveto <" +
-                            codes + "> show showpage\n";
-    QProcess gs;
-    gs.start("gs",
-             {"-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-sDEVICE=txtwrite", "-sOutputFile=-", "-"});
-    gs.write(program + "\n" + page);
-    gs.closeWriteChannel();
-    if (!gs.waitForFinished(30000) || gs.exitCode() != 0)
-        return "gs failed: " + QString::fromUtf8(gs.readAllStandardError());
-    return QString::fromUtf8(gs.readAllStandardOutput()).trimmed();
-}
-
-} // namespace
-
+// Drawing stores the text's glyphs and origin in the file (and frees the
+// record's array); the subset made from them shows the text again.
 TEST_F(FontProgramTest, SubsetOfDrawnWatermarkShowsItsTextInGhostscript)
 {
     const std::pair<const char*, const char*> rows[] = {
@@ -48,12 +22,18 @@ TEST_F(FontProgramTest, SubsetOfDrawnWatermarkShowsItsTextInGhostscript)
         _WatermarkData record = textRecord(text, font);
         MemoryDocument document;
         ASSERT_TRUE(RenderWatermarkDocument(record, {612, 792}, document, kWatermarkFile));
+        EXPECT_FALSE(record.glyphs);
+        _WatermarkData saved;
+        ASSERT_TRUE(loadWatermarkData(kWatermarkFile, text, saved));
+        EXPECT_EQ(saved.glyphCount, QString(text).size());
+        EXPECT_GT(saved.xPos, 0);
+        EXPECT_LT(saved.yPos, 396);
         const std::optional<QString> subsetName = convertFont(kWatermarkFile, text);
         ASSERT_EQ(subsetName, QStringLiteral("QV-%1-QV").arg(font));
         QByteArray program;
         loadFontData(kWatermarkFile, *subsetName, program);
         ASSERT_TRUE(program.startsWith("%!PS-TrueTypeFont")) << font;
-        EXPECT_EQ(extractedText(program, *subsetName, QString(text).size()), QString(text));
+        EXPECT_EQ(GhostscriptText(program, *subsetName, QString(text).size()), QString(text));
     }
 }
 

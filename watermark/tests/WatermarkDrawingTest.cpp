@@ -105,22 +105,6 @@ TEST(WatermarkText, OriginUsesFixedPointWithIntegerHalves)
     EXPECT_EQ(ToFixed(-0.5), -32768);
 }
 
-TEST_F(WatermarkDrawingTest, DrawingTextRecordsGlyphsAndOriginInRecordAndFile)
-{
-    _WatermarkData record = textRecord("AVA", "DejaVuSans");
-    MemoryDocument document;
-    ASSERT_TRUE(RenderWatermarkDocument(record, kLetter, document, kWatermarkFile));
-    _WatermarkData saved;
-    ASSERT_TRUE(loadWatermarkData(kWatermarkFile, "AVA", saved));
-    ASSERT_TRUE(saved.glyphs);
-    EXPECT_EQ(saved.glyphCount, 3);
-    EXPECT_EQ((*saved.glyphs)[0], (*saved.glyphs)[2]);
-    EXPECT_NE((*saved.glyphs)[0], (*saved.glyphs)[1]);
-    EXPECT_GT(saved.xPos, 200);
-    EXPECT_LT(saved.yPos, 396);
-    EXPECT_FALSE(record.glyphs); // the document step frees the array
-}
-
 TEST(WatermarkDensity, AppliesToTextOnly)
 {
     // Blue at density 25 over white: 0.75 * 255 in red and green.

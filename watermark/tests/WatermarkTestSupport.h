@@ -1,5 +1,6 @@
-// A private watermark file for each test, text watermark records, and
-// measurements of rendered pages.
+// A private watermark file for each test, text watermark records,
+// measurements of rendered pages, and the text Ghostscript reads from a font
+// program.
 #pragma once
 
 #include "watermark/WatermarkData.h"
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QProcess>
 #include <QRect>
 #include <QTemporaryDir>
 
@@ -85,6 +87,24 @@ inline QRect inkBox(const QImage& image)
             if ((image.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF)
                 box |= QRect(x, y, 1, 1);
     return box;
+}
+
+// The text Ghostscript extracts from a page showing codes 0 to count - 1 of
+// the font program `program` named `fontName`.
+inline QString GhostscriptText(const QByteArray& program, const QString& fontName, int count)
+{
+    QByteArray codes;
+    for (int code = 0; code < count; ++code)
+        codes += QByteArray::number(code, 16).rightJustified(2, '0');
+    QProcess gs;
+    gs.start("gs",
+             {"-q", "-dNOPAUSE", "-dBATCH", "-dSAFER", "-sDEVICE=txtwrite", "-sOutputFile=-", "-"});
+    gs.write(program + "\n/" + fontName.toUtf8() +
+             " findfont 48 scalefont setfont 72 400 moveto <" + codes + "> show showpage\n");
+    gs.closeWriteChannel();
+    if (!gs.waitForFinished(30000) || gs.exitCode() != 0)
+        return "gs failed: " + QString::fromUtf8(gs.readAllStandardError());
+    return QString::fromUtf8(gs.readAllStandardOutput()).trimmed();
 }
 
 } // namespace orvan::test
