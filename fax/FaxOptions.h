@@ -23,6 +23,8 @@ inline const QString kFaxCreditCardKey = QStringLiteral("CreditCard");
 inline const QString kFaxCoverSheetNotesKey = QStringLiteral("CoverSheetNotes");
 inline const QString kFaxLocalizedNotesLabelKey = QStringLiteral("LocalizedNotesLabel");
 inline const QString kFaxCoverSheetKey = QStringLiteral("CoverSheet");
+// The cover sheet's sender, written by the cover sheet's own settings.
+inline const QString kFaxCoverSheetSenderKey = QStringLiteral("SenderName");
 inline const QString kFaxPromptDuplicateKey = QStringLiteral("PromptDuplicate");
 inline const QString kFaxPromptRemoveKey = QStringLiteral("PromptRemove");
 // Belongs to the same key set; nothing reads or writes it.

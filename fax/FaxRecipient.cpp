@@ -18,20 +18,24 @@ struct FaxRecipientFields
 {
     struct Row
     {
-        const char16_t* key;
+        QString key;
         Field field;
     };
-    static constexpr std::array<Row, 9> kRows{{
-        {u"FirstName", &FaxRecipient::m_firstName},
-        {u"LastName", &FaxRecipient::m_lastName},
-        {u"FaxNumber", &FaxRecipient::m_faxNumber},
-        {u"FaxNumberLabel", &FaxRecipient::m_faxNumberLabel},
-        {u"Organization", &FaxRecipient::m_organization},
-        {u"PhoneNumber", &FaxRecipient::m_phoneNumber},
-        {u"EmailAddress", &FaxRecipient::m_emailAddress},
-        {u"Mailbox", &FaxRecipient::m_mailbox},
-        {u"UID", &FaxRecipient::m_uid},
-    }};
+    static const std::array<Row, 9>& rows()
+    {
+        static const std::array<Row, 9> kRows{{
+            {kFaxFirstNameKey, &FaxRecipient::m_firstName},
+            {kFaxLastNameKey, &FaxRecipient::m_lastName},
+            {kFaxNumberKey, &FaxRecipient::m_faxNumber},
+            {QStringLiteral("FaxNumberLabel"), &FaxRecipient::m_faxNumberLabel},
+            {QStringLiteral("Organization"), &FaxRecipient::m_organization},
+            {QStringLiteral("PhoneNumber"), &FaxRecipient::m_phoneNumber},
+            {QStringLiteral("EmailAddress"), &FaxRecipient::m_emailAddress},
+            {QStringLiteral("Mailbox"), &FaxRecipient::m_mailbox},
+            {QStringLiteral("UID"), &FaxRecipient::m_uid},
+        }};
+        return kRows;
+    }
 };
 
 FaxRecipient::FaxRecipient(FaxField firstName, FaxField lastName, FaxField faxNumber)
@@ -48,9 +52,9 @@ FaxRecipient::FaxRecipient(const PropertyValue& dictionary)
 PropertyValue FaxRecipient::toTicket() const
 {
     PropertyValue dictionary = PropertyValue::dictionary();
-    for (const auto& row : FaxRecipientFields::kRows)
+    for (const auto& row : FaxRecipientFields::rows())
         if (const FaxField& value = this->*row.field)
-            dictionary.insert(QString::fromUtf16(row.key), *value);
+            dictionary.insert(row.key, *value);
     return dictionary;
 }
 
@@ -58,8 +62,8 @@ void FaxRecipient::fromTicket(const PropertyValue& dictionary)
 {
     if (!dictionary.isDictionary())
         return;
-    for (const auto& row : FaxRecipientFields::kRows) {
-        const PropertyValue* value = dictionary.find(QString::fromUtf16(row.key));
+    for (const auto& row : FaxRecipientFields::rows()) {
+        const PropertyValue* value = dictionary.find(row.key);
         this->*row.field = value && value->isString() ? FaxField(value->toString()) : FaxField();
     }
 }

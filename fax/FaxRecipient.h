@@ -24,6 +24,11 @@ struct AddressBookRecord;
 
 inline const QString kFaxRecipientListKey = QStringLiteral("com.orvan.print.FaxRecipientList");
 
+// The name and number keys of a recipient's dictionary.
+inline const QString kFaxFirstNameKey = QStringLiteral("FirstName");
+inline const QString kFaxLastNameKey = QStringLiteral("LastName");
+inline const QString kFaxNumberKey = QStringLiteral("FaxNumber");
+
 // The characters a fax number keeps when it is dialled; membership is
 // case-sensitive ("a" is dropped, "A" kept).
 inline constexpr char16_t kFaxDialingCharacters[] = u"0123456789*#=:!,/S$<>ABCD";

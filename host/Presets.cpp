@@ -1,8 +1,9 @@
 #include "host/Presets.h"
 
+#include "fax/FaxOptions.h"
+#include "paperoutput/PaperOutputRecord.h"
 #include "settings/Preferences.h"
 #include "settings/TicketFile.h"
-#include "submission/TicketKeys.h"
 
 #include <QDir>
 #include <QFile>
@@ -62,8 +63,8 @@ std::optional<QString> InvalidPresetName(const QString& name)
 Ticket WithoutPasscodes(const Ticket& printSettings)
 {
     Ticket ticket = printSettings;
-    RemoveFromItem(ticket, submission::kJobTypeKey, submission::kSecurePrintPasswordKey);
-    RemoveFromItem(ticket, submission::kFaxOptionsKey, submission::kFaxCreditCardKey);
+    RemoveFromItem(ticket, kJobTypeKey, kSecurePrintPasswordKey);
+    RemoveFromItem(ticket, kFaxOptionsKey, kFaxCreditCardKey);
     return ticket;
 }
 

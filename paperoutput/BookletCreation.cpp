@@ -21,6 +21,11 @@ std::int32_t FoldForRadio(int index)
     return index >= 0 && index < 3 ? kFoldRadioValues[index] : kFinishingNone;
 }
 
+bool FoldRadioEnabled(int index, bool deviceFolds)
+{
+    return deviceFolds || FoldForRadio(index) == kFinishingNone;
+}
+
 int LayoutRadioIndex(std::int32_t layout)
 {
     return layout == kBookletLayoutOn ? 1 : 0;

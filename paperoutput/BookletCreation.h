@@ -15,6 +15,9 @@ namespace orvan {
 // and Staple" (53). A fold value other than 43 or 53 shows "None".
 int FoldRadioIndex(std::int32_t fold);
 std::int32_t FoldForRadio(int index);
+// "None" can always be chosen, the two folds only on a device that folds
+// booklets (PaperOutputModel::bookletFoldEnabled).
+bool FoldRadioEnabled(int index, bool deviceFolds);
 // The layout radios, in order: "None" (layout 2), "Booklet Layout" (1). Any
 // value other than 1 shows "None".
 int LayoutRadioIndex(std::int32_t layout);

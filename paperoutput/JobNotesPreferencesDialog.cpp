@@ -1,15 +1,12 @@
 #include "paperoutput/JobNotesPreferencesDialog.h"
 
-#include "ui/Help.h"
+#include "ui/DialogButtons.h"
 #include "ui/LocalizedTitles.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
-
-#include <cstdio>
 
 namespace orvan {
 
@@ -30,10 +27,9 @@ QCheckBox* makeCheckBox(const Bundle* bundle, const char* objectName, const QStr
 JobNotesPreferencesDialog::JobNotesPreferencesDialog(const Bundle* bundle,
                                                      const JobNotesPreferencesOptions& preferences,
                                                      QWidget* parent)
-    : QDialog(parent), m_bundle(bundle),
-      m_useDocumentName(makeCheckBox(bundle, "UseDocumentNameCheckBox",
-                                     QStringLiteral("UseDocumentNameAsJobName"),
-                                     preferences.useDocumentNameAsJobName, this)),
+    : QDialog(parent), m_useDocumentName(makeCheckBox(bundle, "UseDocumentNameCheckBox",
+                                                      QStringLiteral("UseDocumentNameAsJobName"),
+                                                      preferences.useDocumentNameAsJobName, this)),
       m_senderLoginName(makeCheckBox(bundle, "SenderLoginNameCheckBox",
                                      QStringLiteral("UseLoginNameAsSenderName"),
                                      preferences.useLoginNameAsSenderName, this)),
@@ -51,14 +47,7 @@ JobNotesPreferencesDialog::JobNotesPreferencesDialog(const Bundle* bundle,
     intro->setWordWrap(true);
     intro->setMinimumWidth(320);
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
-    buttons->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("HelpButton"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &JobNotesPreferencesDialog::showHelp);
+    QDialogButtonBox* buttons = NewOkCancelHelpButtons(this, bundle, kJobNotesPreferencesHelpPage);
 
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(10);
@@ -76,14 +65,6 @@ JobNotesPreferencesOptions JobNotesPreferencesDialog::preferences() const
     return JobNotesPreferencesOptions{m_useDocumentName->isChecked() ? 1 : 0,
                                       m_senderLoginName->isChecked() ? 1 : 0,
                                       m_recipientLoginName->isChecked() ? 1 : 0};
-}
-
-void JobNotesPreferencesDialog::showHelp()
-{
-    if (const Status status = DisplayHelp(m_bundle, kJobNotesPreferencesHelpPage, {});
-        status != kNoError)
-        std::fprintf(stderr, "DEBUG: DisplayHelp(%s) failed (%d)\n",
-                     qPrintable(kJobNotesPreferencesHelpPage), static_cast<int>(status));
 }
 
 Status RunModalJobNotesPreferencesDialog(const Bundle* bundle,

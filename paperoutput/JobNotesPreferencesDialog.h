@@ -31,9 +31,6 @@ public:
     JobNotesPreferencesOptions preferences() const;
 
 private:
-    void showHelp();
-
-    const Bundle* m_bundle;
     QCheckBox* m_useDocumentName;
     QCheckBox* m_senderLoginName;
     QCheckBox* m_recipientLoginName;

@@ -304,7 +304,7 @@ bool RunModalSavedJobDialog(const Bundle* bundle, PaperOutputRecord& record, QWi
 namespace {
 
 bool RunBookletDialog(const Bundle* bundle, BookletCreationParams& params, QWidget* parent,
-                      const QString& objectName, const QString& titleKey)
+                      const QString& objectName, const QString& titleKey, bool foldEnabled)
 {
     QDialog dialog(parent);
     dialog.setObjectName(objectName);
@@ -409,6 +409,8 @@ bool RunBookletDialog(const Bundle* bundle, BookletCreationParams& params, QWidg
 
     // Write the values to the controls.
     folds->button(FoldRadioIndex(params.fold))->setChecked(true);
+    for (QAbstractButton* fold : folds->buttons())
+        fold->setEnabled(FoldRadioEnabled(folds->id(fold), foldEnabled));
     layouts->button(LayoutRadioIndex(params.layout))->setChecked(true);
     outlines->setChecked(params.drawOutlines == kDrawOutlinesOn);
     if (!SetPopupButtonToTicketValue(size, params.newSize))
@@ -439,17 +441,17 @@ bool RunBookletDialog(const Bundle* bundle, BookletCreationParams& params, QWidg
 } // namespace
 
 bool RunModalBookletCreationDialog(const Bundle* bundle, BookletCreationParams& params,
-                                   QWidget* parent)
+                                   QWidget* parent, bool foldEnabled)
 {
     return RunBookletDialog(bundle, params, parent, QStringLiteral("BookletCreation"),
-                            QStringLiteral("Booklet Creation"));
+                            QStringLiteral("Booklet Creation"), foldEnabled);
 }
 
 bool RunModalBookletOptionsDialog(const Bundle* bundle, BookletCreationParams& params,
                                   QWidget* parent)
 {
     return RunBookletDialog(bundle, params, parent, QStringLiteral("BookletOptions"),
-                            QStringLiteral("Booklet Options Title"));
+                            QStringLiteral("Booklet Options Title"), true);
 }
 
 } // namespace orvan

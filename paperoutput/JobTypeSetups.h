@@ -32,10 +32,11 @@ bool RunModalSavedJobDialog(const Bundle* bundle, PaperOutputRecord& record, QWi
 // Booklet finishing (fold, fold and staple), layout, outlines, a new sheet
 // size from the stock's size menu, gutter (points) and creep (tenths of a
 // point, shown in points). Works on the booklet fields of the Paper/Output
-// record (BookletParamsFromRecord; the caller applies the result with
-// ApplyBookletCreation). True on OK; on Cancel params is unchanged.
+// record (PaperOutputModel::bookletCreationParams; the caller applies the
+// result with applyBookletCreation). Without foldEnabled only the fold radio
+// "None" can be chosen. True on OK; on Cancel params is unchanged.
 bool RunModalBookletCreationDialog(const Bundle* bundle, BookletCreationParams& params,
-                                   QWidget* parent);
+                                   QWidget* parent, bool foldEnabled = true);
 // The same controls under the title "Booklet Options Title".
 bool RunModalBookletOptionsDialog(const Bundle* bundle, BookletCreationParams& params,
                                   QWidget* parent);

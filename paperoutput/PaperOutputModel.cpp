@@ -354,6 +354,14 @@ Status PaperOutputModel::handleCommand(std::uint32_t command, std::int32_t value
     return kEventNotHandled;
 }
 
+BookletCreationParams PaperOutputModel::bookletCreationParams() const
+{
+    BookletCreationParams params = BookletParamsFromRecord(m_record);
+    if (!bookletFoldEnabled())
+        params.fold = kFinishingNone;
+    return params;
+}
+
 void PaperOutputModel::applyBookletCreation(const BookletCreationParams& params)
 {
     if (ApplyBookletCreation(m_record, params))

@@ -104,6 +104,13 @@ public:
     // Results of the dialogs the view ran.
     PaperOutputRecord& record() { return m_record; }
     const PaperOutputRecord& record() const { return m_record; }
+    // The booklet creation dialog's values: the record's, with the fold 1
+    // (none) on a device that does not fold booklets. With the dialog's fold
+    // radios disabled there (bookletFoldEnabled), OK writes fold 1 back.
+    BookletCreationParams bookletCreationParams() const;
+    // Whether the dialog's "Booklet Fold" and "Booklet Fold and Staple"
+    // radios can be chosen: only on a device that folds booklets.
+    bool bookletFoldEnabled() const { return m_device.bookletFold; }
     void applyBookletCreation(const BookletCreationParams& params);
     void setCoversChanged() { m_coversChanged = true; }
     // The stock or its separators changed: pop-ups and summaries follow.

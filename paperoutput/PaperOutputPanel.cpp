@@ -269,8 +269,8 @@ void PaperOutputView::run(PaperOutputAction action)
         m_model.runFaxSetup();
         break;
     case PaperOutputAction::RunBookletCreation: {
-        BookletCreationParams params = BookletParamsFromRecord(record);
-        if (RunModalBookletCreationDialog(m_bundle, params, this))
+        BookletCreationParams params = m_model.bookletCreationParams();
+        if (RunModalBookletCreationDialog(m_bundle, params, this, m_model.bookletFoldEnabled()))
             m_model.applyBookletCreation(params);
         break;
     }
@@ -305,8 +305,8 @@ PanelBase::Description PaperOutputPanel::describe() const
 
 bool PaperOutputPanel::runBookletCreation(QWidget* parent)
 {
-    BookletCreationParams params = BookletParamsFromRecord(model().record());
-    if (!RunModalBookletCreationDialog(bundle(), params, parent))
+    BookletCreationParams params = model().bookletCreationParams();
+    if (!RunModalBookletCreationDialog(bundle(), params, parent, model().bookletFoldEnabled()))
         return false;
     model().applyBookletCreation(params);
     if (view())

@@ -13,6 +13,9 @@ constexpr _InstalledFeatureMap _InstalledFeatures[] = {
     // The stock menus of covers and inserts offer the inserter as a source;
     // its value is that source's.
     {"PostPrintInserterKey", "Option9", "True", "Post-Print Inserter", 10},
+    // The booklet maker folds, or folds and staples, booklets.
+    {"BookletFoldKey", "BookletFinishingOptions", "BiFoldMultiple", nullptr, 0},
+    {"BookletFoldKey", "BookletFinishingOptions", "BiFoldStapleMultiple", nullptr, 0},
     {nullptr, nullptr, nullptr, nullptr, 0},
 };
 

@@ -8,13 +8,10 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPixmap>
-#include <QVBoxLayout>
 
 namespace orvan {
 
@@ -52,20 +49,7 @@ public:
         top->addSpacing(12);
         top->addLayout(form, 1);
 
-        auto* paper = new QGroupBox(SpecialPagesText(bundle, QStringLiteral("Paper Group")), this);
-        paper->setObjectName(QStringLiteral("PaperGroup"));
-        auto* paperLayout = new QVBoxLayout(paper);
-        paperLayout->addWidget(m_stock);
-        if (QLabel* job = NewJobStockLabel(bundle, jobStock, paper))
-            paperLayout->addWidget(job);
-
-        QDialogButtonBox* buttons = NewOkCancelButtons(this);
-        connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-
-        QBoxLayout* layout = NewDialogLayout(this);
-        layout->addLayout(top);
-        layout->addWidget(paper);
-        layout->addWidget(buttons);
+        LayOutSpecialPageDialog(this, bundle, top, m_stock, jobStock, [this] { accept(); });
 
         connect(m_options, &QComboBox::activated, this, [this](int index) {
             m_model.setOption(static_cast<CoverOption>(index + 1));

@@ -8,12 +8,8 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 namespace orvan {
 
@@ -44,20 +40,7 @@ public:
         form->addRow(SpecialPagesText(bundle, QStringLiteral("Exception Pages Label")), m_pages);
         form->addRow(SpecialPagesText(bundle, QStringLiteral("Exception Plex Label")), m_plex);
 
-        auto* paper = new QGroupBox(SpecialPagesText(bundle, QStringLiteral("Paper Group")), this);
-        paper->setObjectName(QStringLiteral("PaperGroup"));
-        auto* paperLayout = new QVBoxLayout(paper);
-        paperLayout->addWidget(m_stock);
-        if (QLabel* job = NewJobStockLabel(bundle, jobStock, paper))
-            paperLayout->addWidget(job);
-
-        QDialogButtonBox* buttons = NewOkCancelButtons(this);
-        connect(buttons, &QDialogButtonBox::accepted, this, &ExceptionsDialog::tryAccept);
-
-        QBoxLayout* layout = NewDialogLayout(this);
-        layout->addLayout(form);
-        layout->addWidget(paper);
-        layout->addWidget(buttons);
+        LayOutSpecialPageDialog(this, bundle, form, m_stock, jobStock, [this] { tryAccept(); });
 
         connect(m_plex, &QComboBox::activated, this, [this](int index) {
             m_model.setPlexItem(index + 1);

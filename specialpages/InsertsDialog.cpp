@@ -7,14 +7,10 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
-#include <QVBoxLayout>
 
 namespace orvan {
 
@@ -51,20 +47,7 @@ public:
         form->addRow(SpecialPagesText(bundle, QStringLiteral("Insert Quantity Label")), m_quantity);
         form->addRow(SpecialPagesText(bundle, QStringLiteral("Insert Position Label")), where);
 
-        auto* paper = new QGroupBox(SpecialPagesText(bundle, QStringLiteral("Paper Group")), this);
-        paper->setObjectName(QStringLiteral("PaperGroup"));
-        auto* paperLayout = new QVBoxLayout(paper);
-        paperLayout->addWidget(m_stock);
-        if (QLabel* job = NewJobStockLabel(bundle, jobStock, paper))
-            paperLayout->addWidget(job);
-
-        QDialogButtonBox* buttons = NewOkCancelButtons(this);
-        connect(buttons, &QDialogButtonBox::accepted, this, &InsertsDialog::tryAccept);
-
-        QBoxLayout* layout = NewDialogLayout(this);
-        layout->addLayout(form);
-        layout->addWidget(paper);
-        layout->addWidget(buttons);
+        LayOutSpecialPageDialog(this, bundle, form, m_stock, jobStock, [this] { tryAccept(); });
 
         connect(m_quantity, &QSpinBox::valueChanged, this,
                 [this](int quantity) { m_model.insert().setQuantity(quantity); });

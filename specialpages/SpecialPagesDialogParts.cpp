@@ -9,6 +9,7 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -17,25 +18,9 @@
 
 namespace orvan {
 
-QLineEdit* NewPageRangeField(QWidget* parent)
-{
-    auto* field = new QLineEdit(parent);
-    field->setObjectName(QStringLiteral("PagesField"));
-    field->setPlaceholderText(QStringLiteral("1, 4-6, 10-"));
-    LimitInputLengthAndCharacters(
-        field, 0, 0, CharacterSetFromString(QString::fromLatin1(kPageRangeCharacters)));
-    return field;
-}
+namespace {
 
-QDialogButtonBox* NewOkCancelButtons(QDialog* dialog)
-{
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
-    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-    return buttons;
-}
-
+// "Job paper: ..." with the job's stock summary; null without a stock.
 QLabel* NewJobStockLabel(const Bundle* bundle, const Stock* jobStock, QWidget* parent)
 {
     if (!jobStock)
@@ -50,6 +35,18 @@ QLabel* NewJobStockLabel(const Bundle* bundle, const Stock* jobStock, QWidget* p
     return label;
 }
 
+} // namespace
+
+QLineEdit* NewPageRangeField(QWidget* parent)
+{
+    auto* field = new QLineEdit(parent);
+    field->setObjectName(QStringLiteral("PagesField"));
+    field->setPlaceholderText(QStringLiteral("1, 4-6, 10-"));
+    LimitInputLengthAndCharacters(
+        field, 0, 0, CharacterSetFromString(QString::fromLatin1(kPageRangeCharacters)));
+    return field;
+}
+
 QPixmap SpecialPagesPicture(const Bundle* bundle, const QString& imageName)
 {
     if (!bundle)
@@ -58,12 +55,29 @@ QPixmap SpecialPagesPicture(const Bundle* bundle, const QString& imageName)
     return path.isEmpty() ? QPixmap() : QPixmap(path);
 }
 
-QBoxLayout* NewDialogLayout(QDialog* dialog)
+void LayOutSpecialPageDialog(QDialog* dialog, const Bundle* bundle, QLayout* fields,
+                             QWidget* stockButton, const Stock* jobStock,
+                             std::function<void()> onOk)
 {
+    auto* paper = new QGroupBox(SpecialPagesText(bundle, QStringLiteral("Paper Group")), dialog);
+    paper->setObjectName(QStringLiteral("PaperGroup"));
+    auto* paperLayout = new QVBoxLayout(paper);
+    paperLayout->addWidget(stockButton);
+    if (QLabel* job = NewJobStockLabel(bundle, jobStock, paper))
+        paperLayout->addWidget(job);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, std::move(onOk));
+
     auto* layout = new QVBoxLayout(dialog);
     layout->setContentsMargins(20, 16, 20, 14);
     layout->setSpacing(12);
-    return layout;
+    layout->addLayout(fields);
+    layout->addWidget(paper);
+    layout->addWidget(buttons);
 }
 
 } // namespace orvan

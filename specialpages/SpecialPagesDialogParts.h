@@ -3,10 +3,10 @@
 
 #include <QString>
 
-class QBoxLayout;
+#include <functional>
+
 class QDialog;
-class QDialogButtonBox;
-class QLabel;
+class QLayout;
 class QLineEdit;
 class QPixmap;
 class QWidget;
@@ -20,18 +20,16 @@ class Stock;
 // characters of page ranges.
 QLineEdit* NewPageRangeField(QWidget* parent);
 
-// OK ("OKButton") and Cancel ("CancelButton"). Cancel rejects the dialog; OK
-// only emits accepted(), so the dialog decides whether to close.
-QDialogButtonBox* NewOkCancelButtons(QDialog* dialog);
-
-// "Job paper: ..." with the job's stock summary ("JobStockLabel"); null
-// without a stock.
-QLabel* NewJobStockLabel(const Bundle* bundle, const Stock* jobStock, QWidget* parent);
-
 // A picture of the bundle by its name; a null pixmap when missing.
 QPixmap SpecialPagesPicture(const Bundle* bundle, const QString& imageName);
 
-// The dialog's outer layout with the usual margins.
-QBoxLayout* NewDialogLayout(QDialog* dialog);
+// Lays the dialog out: `fields` on top; below them the "Paper Group" box
+// ("PaperGroup") with the stock button and, with a job stock, "Job paper:
+// ..." and the job's stock summary ("JobStockLabel"); then OK ("OKButton")
+// and Cancel ("CancelButton"). Cancel rejects the dialog; OK only calls
+// `onOk`, so the dialog decides whether to close.
+void LayOutSpecialPageDialog(QDialog* dialog, const Bundle* bundle, QLayout* fields,
+                             QWidget* stockButton, const Stock* jobStock,
+                             std::function<void()> onOk);
 
 } // namespace orvan

@@ -2,13 +2,12 @@
 
 #include "stock/StockMenus.h"
 #include "stock/StockSummary.h"
-#include "ui/Help.h"
+#include "ui/DialogButtons.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace orvan {
@@ -54,15 +53,7 @@ StockDescriptionDialog::StockDescriptionDialog(const Bundle* bundle, const Stock
     fields->addRow(LocalizedStockText(bundle, QStringLiteral("StockDescriptionLabel")),
                    m_description);
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
-    buttons->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("HelpButton"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this,
-            [bundle] { DisplayHelp(bundle, kStockDescriptionHelpPage, QString()); });
+    QDialogButtonBox* buttons = NewOkCancelHelpButtons(this, bundle, kStockDescriptionHelpPage);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(shown);

@@ -1,14 +1,16 @@
 #include "submission/JobAttributes.h"
 
+#include "fax/FaxOptions.h"
+#include "fax/FaxRecipient.h"
+#include "paperoutput/JobNotesModel.h"
+#include "paperoutput/PaperOutputRecord.h"
 #include "settings/PageFormat.h"
-
 #include "specialpages/Cover.h"
 #include "specialpages/ExceptionPage.h"
 #include "specialpages/Insert.h"
 #include "specialpages/SpecialPageKeys.h"
 #include "submission/CopiesAndPages.h"
 #include "submission/IppTables.h"
-#include "submission/TicketKeys.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
@@ -224,10 +226,7 @@ void AddSpecialPages(ipp_t* ipp, const Ticket& settings, const Stock* jobStock)
 // The digits a fax number is dialled with, as a tel: URI.
 QString TelUri(const QString& faxNumber)
 {
-    QString digits;
-    for (const QChar c : faxNumber)
-        if (kFaxDialingCharacters.contains(c))
-            digits += c;
+    const QString digits = CopyDialingStringFromFaxNumber(faxNumber);
     if (digits.isEmpty())
         return {};
     return QStringLiteral("tel:") + QString::fromLatin1(QUrl::toPercentEncoding(digits, "*#ABCD"));
@@ -323,16 +322,16 @@ void AddPageSetup(ipp_t* ipp, const PrintSession& session)
                       static_cast<int>(*rows * *columns));
         // The order the pages fill a sheet, by the layout direction (1 to 4).
         constexpr const char* kLayouts[] = {"lrtb", "rltb", "tblr", "tbrl"};
-        const auto direction = settings.integer(orvan::kLayoutDirectionKey, NumberType::SInt32);
+        const auto direction = settings.integer(kLayoutDirectionKey, NumberType::SInt32);
         if (direction && *direction >= 1 && *direction <= 4)
             ippAddString(ipp, IPP_TAG_JOB, IPP_TAG_KEYWORD, "number-up-layout", nullptr,
                          kLayouts[*direction - 1]);
     }
-    if (const auto collate = settings.boolean(orvan::kCopyCollateKey))
+    if (const auto collate = settings.boolean(kCopyCollateKey))
         ippAddString(ipp, IPP_TAG_JOB, IPP_TAG_KEYWORD, "multiple-document-handling", nullptr,
                      *collate ? "separate-documents-collated-copies"
                               : "separate-documents-uncollated-copies");
-    if (settings.boolean(orvan::kReverseOrderKey).value_or(false))
+    if (settings.boolean(kReverseOrderKey).value_or(false))
         ippAddString(ipp, IPP_TAG_JOB, IPP_TAG_KEYWORD, "page-delivery", nullptr,
                      "reverse-order-face-down");
 }
@@ -346,7 +345,7 @@ JobDescription DescribeJob(const PrintSession& session, const QString& documentN
     for (const auto& [keyword, choice] : settings.ppdDictionary().asDictionary())
         if (choice.isString() && !choice.toString().isEmpty())
             job.cupsOptions.emplace_back(keyword, choice.toString());
-    if (const auto sender = settings.string(kJobNotesSenderKey); sender && !sender->isEmpty())
+    if (const auto sender = settings.string(kJobNotesSenderNameKey); sender && !sender->isEmpty())
         job.cupsOptions.emplace_back(QStringLiteral("job-notes-sender"), *sender);
     if (const auto recipient = settings.string(kJobNotesRecipientKey);
         recipient && !recipient->isEmpty())
@@ -406,7 +405,7 @@ JobDescription DescribeJob(const PrintSession& session, const QString& documentN
     if (const auto bin = OutputBin(PpdChoice(settings, "OutputBin")))
         AddWord(ipp, IPP_TAG_JOB, "output-bin", *bin);
     AddSpecialPages(ipp, settings, jobStock ? &*jobStock : nullptr);
-    AddImageQuality(ipp, settings, type != kJobTypeFax);
+    AddImageQuality(ipp, settings, type != kJobTypeLANFax);
     AddPageSetup(ipp, session);
 
     if (type == kJobTypeDelayed)
@@ -434,7 +433,7 @@ JobDescription DescribeJob(const PrintSession& session, const QString& documentN
         ippAddInteger(proof.get(), IPP_TAG_ZERO, IPP_TAG_INTEGER, "proof-print-copies", 1);
         AddCollection(ipp, IPP_TAG_JOB, "proof-print", proof);
     }
-    if (type == kJobTypeFax)
+    if (type == kJobTypeLANFax)
         AddFax(ipp, settings);
 
     if (const auto banner = settings.string(kJobNotesSheetMessageKey); banner && !banner->isEmpty())

@@ -1,22 +1,19 @@
 #include "ui/CustomValueDialog.h"
 
-#include "ui/Help.h"
+#include "ui/DialogButtons.h"
 #include "ui/InputLimitValidator.h"
 #include "ui/LocalizedFormat.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
-
-#include <cstdio>
 
 namespace orvan {
 
 CustomValueDialog::CustomValueDialog(const Bundle* bundle, int firstLimit, int secondLimit,
                                      const QString& value, QWidget* parent)
-    : QDialog(parent), m_bundle(bundle), m_field(new QLineEdit(this))
+    : QDialog(parent), m_field(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("CustomValue"));
     setWindowTitle(LocalizedFormat(bundle, QStringLiteral("CustomValueTitle")));
@@ -31,14 +28,7 @@ CustomValueDialog::CustomValueDialog(const Bundle* bundle, int firstLimit, int s
         m_field->setText(value);
     m_field->selectAll();
 
-    auto* buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help, this);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
-    buttons->button(QDialogButtonBox::Help)->setObjectName(QStringLiteral("HelpButton"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(buttons, &QDialogButtonBox::helpRequested, this, &CustomValueDialog::showHelp);
+    QDialogButtonBox* buttons = NewOkCancelHelpButtons(this, bundle, kCustomValueHelpPage);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(prompt);
@@ -49,13 +39,6 @@ CustomValueDialog::CustomValueDialog(const Bundle* bundle, int firstLimit, int s
 QString CustomValueDialog::value() const
 {
     return m_field->text();
-}
-
-void CustomValueDialog::showHelp()
-{
-    if (const Status status = DisplayHelp(m_bundle, kCustomValueHelpPage, {}); status != kNoError)
-        std::fprintf(stderr, "DEBUG: DisplayHelp(%s) failed (%d)\n",
-                     qPrintable(kCustomValueHelpPage), static_cast<int>(status));
 }
 
 Status RunModalCustomValueDialog(const Bundle* bundle, int firstLimit, int secondLimit,

@@ -36,9 +36,6 @@ public:
     QString value() const;
 
 private:
-    void showHelp();
-
-    const Bundle* m_bundle;
     QLineEdit* m_field;
 };
 

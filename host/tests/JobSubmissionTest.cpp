@@ -5,12 +5,13 @@
 #include "host/JobSubmission.h"
 #include "host/Presets.h"
 #include "host/tests/HostTestSupport.h"
+#include "paperoutput/JobNotesModel.h"
+#include "paperoutput/PaperOutputRecord.h"
 #include "settings/TicketFile.h"
 #include "specialpages/Cover.h"
 #include "specialpages/ExceptionPage.h"
 #include "specialpages/Insert.h"
 #include "specialpages/SpecialPageKeys.h"
-#include "submission/TicketKeys.h"
 #include "submission/tests/IppText.h"
 
 #include <QDir>

@@ -1,7 +1,8 @@
 // Renders one of the Paper/Output setup dialogs offscreen to a PNG file, as
 // it opens with sample values, so it can be looked at without a display.
 // Usage: orvan_setup_dialog_screenshot BUNDLE DIALOG OUT.png
-//   DIALOG: secure-print, delayed-print, saved-job, booklet, booklet-options
+//   DIALOG: secure-print, delayed-print, saved-job, booklet, booklet-no-folder,
+//           booklet-options
 #include "paperoutput/JobTypeSetups.h"
 #include "paperoutput/LongDateClock.h"
 #include "settings/Bundle.h"
@@ -24,7 +25,7 @@ int main(int argc, char** argv)
     if (argc != 4) {
         std::fprintf(stderr,
                      "usage: %s BUNDLE secure-print|delayed-print|saved-job|booklet|"
-                     "booklet-options OUT.png\n",
+                     "booklet-no-folder|booklet-options OUT.png\n",
                      argv[0]);
         return 2;
     }
@@ -44,6 +45,11 @@ int main(int argc, char** argv)
         {"delayed-print", [&] { return RunModalDelayedPrintSetup(&bundle, time, nullptr); }},
         {"saved-job", [&] { return RunModalSavedJobDialog(&bundle, record, nullptr); }},
         {"booklet", [&] { return RunModalBookletCreationDialog(&bundle, booklet, nullptr); }},
+        {"booklet-no-folder",
+         [&] {
+             booklet.fold = kFinishingNone;
+             return RunModalBookletCreationDialog(&bundle, booklet, nullptr, false);
+         }},
         {"booklet-options",
          [&] { return RunModalBookletOptionsDialog(&bundle, booklet, nullptr); }},
     };

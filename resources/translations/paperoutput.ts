@@ -220,10 +220,6 @@
         <translation>Protect with a passcode</translation>
     </message>
     <message>
-        <source>Job Name:</source>
-        <translation>Job Name:</translation>
-    </message>
-    <message>
         <source>Folder:</source>
         <translation>Folder:</translation>
     </message>

@@ -48,14 +48,6 @@
         <translation>Do you want to delete the watermark “%1”? This cannot be undone.</translation>
     </message>
     <message>
-        <source>Yes Command</source>
-        <translation>Delete</translation>
-    </message>
-    <message>
-        <source>No Command</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Text</translation>
     </message>
@@ -90,10 +82,6 @@
     <message>
         <source>Tenths of an Inch</source>
         <translation>Tenths of an inch</translation>
-    </message>
-    <message>
-        <source>Millimeters</source>
-        <translation>Millimetres</translation>
     </message>
     <message>
         <source>Horizontal:</source>

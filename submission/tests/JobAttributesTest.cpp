@@ -2,12 +2,13 @@
 // names the attributes it looks at and the text (with value types) each must
 // have; an empty text means the attribute must be absent.
 #include "submission/JobAttributes.h"
+#include "paperoutput/JobNotesModel.h"
+#include "paperoutput/PaperOutputRecord.h"
 #include "specialpages/Cover.h"
 #include "specialpages/ExceptionPage.h"
 #include "specialpages/Insert.h"
 #include "specialpages/SpecialPageKeys.h"
 #include "submission/CopiesAndPages.h"
-#include "submission/TicketKeys.h"
 #include "submission/tests/IppText.h"
 #include "submission/tests/QStringPrinter.h"
 
@@ -221,7 +222,7 @@ TEST(JobAttributes, TicketFragmentsBecomeTypedAttributes)
          {{"proof-print", "proof-print (collection)={proof-print-copies (integer)=1}"}}},
         {"fax: recipients as tel: URIs, options, the fax resolution",
          [](PrintSession& s) {
-             SetJobType(s.printSettings(), kJobTypeFax);
+             SetJobType(s.printSettings(), kJobTypeLANFax);
              SetPpd(s.printSettings(), {{"Resolution", "1200x1200dpi"}});
              s.printSettings().setItem(
                  kPanelClient, kFaxRecipientListKey,
@@ -306,7 +307,7 @@ TEST(JobAttributes, OperationAttributesComeFirstAndPpdChoicesAreOptions)
     PrintSession session;
     SetPpd(session.printSettings(), {{"OutputBin", "Top"}, {"InputSlot", ""}});
     SetJobType(session.printSettings(), kJobTypeSecure, {{kSecurePrintPasswordKey, "1234"}});
-    session.printSettings().setItem(kPanelClient, kJobNotesSenderKey, "Ada");
+    session.printSettings().setItem(kPanelClient, kJobNotesSenderNameKey, "Ada");
     const JobDescription job = DescribeJob(session, "report.pdf");
     bool inJobGroup = false;
     for (ipp_attribute_t* a = ippFirstAttribute(job.attributes.get()); a;
