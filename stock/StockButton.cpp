@@ -74,6 +74,8 @@ StockButton::StockButton(const Bundle* bundle, JobContext context, QWidget* pare
     m_summary->setObjectName(QStringLiteral("StockSummary"));
     m_summary->setReadOnly(true);
     m_summary->setFrameShape(QFrame::NoFrame);
+    // Lines wrap at the view's width; a horizontal bar would only flash while laying out.
+    m_summary->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_summary->setMinimumWidth(160);
     m_summary->setMaximumHeight(5 * m_summary->fontMetrics().lineSpacing());
     m_icon->setFixedSize(m_icon->sizeHint());
