@@ -1,6 +1,7 @@
 #include "stock/AdvancedStockDialog.h"
 
 #include "stock/StockMenus.h"
+#include "ui/DialogFields.h"
 #include "ui/PopupMenus.h"
 
 #include <QComboBox>
@@ -36,15 +37,6 @@ QComboBox* attributePopup(const Bundle* bundle, const _SettingMap* map, JobConte
     return popup;
 }
 
-QLineEdit* textField(const QString& text, int maximumLength, const char* objectName,
-                     QWidget* parent)
-{
-    auto* field = new QLineEdit(text, parent);
-    field->setObjectName(QString::fromLatin1(objectName));
-    field->setMaxLength(maximumLength);
-    return field;
-}
-
 // A spin box whose 0 stands for "no value" and shows the given text.
 QSpinBox* countField(std::int32_t value, std::int32_t maximum, const QString& noneText,
                      const char* objectName, QWidget* parent)
@@ -77,12 +69,12 @@ AdvancedStockDialog::AdvancedStockDialog(const Bundle* bundle, const Stock& stoc
 
     m_punched =
         attributePopup(bundle, _StockPunchedMap, context, values.punched, "StockPunched", this);
-    m_colorName = textField(values.colorName, kMaximumNameLength, "StockColorName", this);
-    m_typeName = textField(values.typeName, kMaximumNameLength, "StockTypeName", this);
+    m_colorName = NewTextField(values.colorName, kMaximumNameLength, "StockColorName", this);
+    m_typeName = NewTextField(values.typeName, kMaximumNameLength, "StockTypeName", this);
     m_tabCount =
         countField(values.tabCount, kMaximumTabCount, label("StockNoTabs"), "StockTabCount", this);
-    m_description = textField(values.description, kMaximumNameLength, "StockDescription", this);
-    m_comment = textField(values.comment, kMaximumCommentLength, "StockComment", this);
+    m_description = NewTextField(values.description, kMaximumNameLength, "StockDescription", this);
+    m_comment = NewTextField(values.comment, kMaximumCommentLength, "StockComment", this);
 
     auto* stockFields = new QFormLayout;
     stockFields->addRow(label("StockPunchedLabel"), m_punched);

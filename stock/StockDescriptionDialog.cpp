@@ -3,6 +3,7 @@
 #include "stock/StockMenus.h"
 #include "stock/StockSummary.h"
 #include "ui/DialogButtons.h"
+#include "ui/DialogFields.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -18,22 +19,14 @@ namespace {
 constexpr int kMaximumNameLength = 63;
 constexpr int kMaximumDescriptionLength = 255;
 
-QLineEdit* textField(const QString& text, int maximumLength, const char* objectName,
-                     QWidget* parent)
-{
-    auto* field = new QLineEdit(text, parent);
-    field->setObjectName(QString::fromLatin1(objectName));
-    field->setMaxLength(maximumLength);
-    return field;
-}
-
 } // namespace
 
 StockDescriptionDialog::StockDescriptionDialog(const Bundle* bundle, const Stock& stock,
                                                JobContext context, QWidget* parent)
-    : QDialog(parent), m_name(textField(stock.customName(), kMaximumNameLength, "StockName", this)),
+    : QDialog(parent),
+      m_name(NewTextField(stock.customName(), kMaximumNameLength, "StockName", this)),
       m_description(
-          textField(stock.description(), kMaximumDescriptionLength, "StockDescription", this))
+          NewTextField(stock.description(), kMaximumDescriptionLength, "StockDescription", this))
 {
     setObjectName(QStringLiteral("StockDescriptionSetup"));
     setWindowTitle(LocalizedStockText(bundle, QStringLiteral("StockDescriptionSetup")));
