@@ -4,8 +4,9 @@
 // and the print-settings ticket keys it travels under.
 #pragma once
 
-#include "fax/FaxOptions.h"      // kFaxOptionsKey
-#include "fax/FaxRecipient.h"    // kFaxRecipientListKey
+#include "fax/FaxOptions.h"   // kFaxOptionsKey
+#include "fax/FaxRecipient.h" // kFaxRecipientListKey
+#include "settings/JobTypes.h"
 #include "settings/PageFormat.h" // the job name and orientation keys
 #include "settings/PropertyValue.h"
 #include "specialpages/Cover.h"
@@ -62,20 +63,6 @@ inline const QString kPunchKeyword = QStringLiteral("QVPunch");
 inline const QString kStapleKeyword = QStringLiteral("StapleLocation");
 inline const QString kMediaColorKeyword = QStringLiteral("MediaColor");
 inline const QString kMediaTypeKeyword = QStringLiteral("MediaType");
-
-// Job types (`_JobTypeMap` values, and the two the map does not offer).
-enum JobTypeValue : std::int32_t
-{
-    kJobTypeNormal = 1,
-    kJobTypeHold = 2,
-    kJobTypeSavedJob = 3,
-    kJobTypeSetupOnly = 4, // enables the setup button, opens nothing
-    kJobTypeLANFax = 5,
-    kJobTypeSecure = 6,
-    kJobTypeDelayed = 7,
-    kJobTypeSampleSet = 8,
-    kJobTypeBackgroundForm = 9,
-};
 
 // Two-sided values (`_PlexMap`).
 inline constexpr std::int32_t kSimplex = 1;

@@ -274,7 +274,7 @@ OkGuardDecision ShellOkGuard(PDEShellContext* context)
     if (!source)
         return OkGuardDecision::Print;
     switch (source->jobType()) {
-    case kJobTypeSecurePrint: {
+    case kJobTypeSecure: {
         if (!source->securePrintPasscode().isEmpty())
             return OkGuardDecision::Print;
         const Bundle* bundle = context->bundle;
@@ -291,7 +291,7 @@ OkGuardDecision ShellOkGuard(PDEShellContext* context)
         ShowAlert(alert);
         return OkGuardDecision::RefusedSecurePrintPasscode;
     }
-    case kJobTypeFax:
+    case kJobTypeLANFax:
         if (source->faxRecipientCount() > 0)
             return OkGuardDecision::Print;
         source->runFaxSetup();

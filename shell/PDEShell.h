@@ -5,6 +5,7 @@
 #pragma once
 
 #include "settings/Bundle.h"
+#include "settings/JobTypes.h"
 #include "shell/PDEInterface.h"
 
 #include <QString>
@@ -162,8 +163,6 @@ OkGuardDecision ShellOkGuard(PDEShellContext* context);
 // on, 0 before.
 Status ConsumedOkResult();
 
-inline constexpr std::int32_t kJobTypeSecurePrint = 6;
-inline constexpr std::int32_t kJobTypeFax = 5;
 inline constexpr int kSecurePrintPasscodeMinDigits = 4;
 inline constexpr int kSecurePrintPasscodeMaxDigits = 10;
 

@@ -326,7 +326,7 @@ TEST_F(ShellTest, OkGuardNeedsAPasscodeForSecurePrintAndRecipientsForFax)
     std::vector<Alert> shown;
     SetAlertPresenter([&shown](const Alert& alert) { shown.push_back(alert); });
 
-    guard().type = kJobTypeSecurePrint;
+    guard().type = kJobTypeSecure;
     EXPECT_EQ(ShellOkGuard(m_shell), OkGuardDecision::RefusedSecurePrintPasscode);
     ASSERT_EQ(shown.size(), 1u);
     EXPECT_TRUE(shown[0].message.contains("4")) << shown[0].message.toStdString();
@@ -336,7 +336,7 @@ TEST_F(ShellTest, OkGuardNeedsAPasscodeForSecurePrintAndRecipientsForFax)
     guard().passcode = QStringLiteral("1234");
     EXPECT_EQ(ShellOkGuard(m_shell), OkGuardDecision::Print);
 
-    guard().type = kJobTypeFax;
+    guard().type = kJobTypeLANFax;
     EXPECT_EQ(ShellOkGuard(m_shell), OkGuardDecision::OpenedFaxSetup);
     EXPECT_EQ(guard().faxSetupRuns, 1);
     guard().recipients = 2;
