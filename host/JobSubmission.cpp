@@ -22,6 +22,11 @@ std::optional<QStringList> stampedCopies(const PrintSession& session, const QStr
         WatermarkStampForSession(session, ReadPageSetup(session, {}).paper.points);
     if (!watermark)
         return files;
+    if (!folder.isValid()) {
+        *error = QStringLiteral("no temporary folder for the stamped pages: %1")
+                     .arg(folder.errorString());
+        return std::nullopt;
+    }
     QStringList copies;
     for (const QString& file : files) {
         DocumentPreparation preparation;
