@@ -1,6 +1,6 @@
 // The setup dialogs' rules without a display: passcode pairs and their
 // alerts, the long date-time scale and delayed times, saved-job values, and
-// the booklet dialog's radios, details and preview.
+// the booklet dialog's preview pictures.
 #include "paperoutput/JobTypeSetupRules.h"
 #include "paperoutput/BookletCreation.h"
 #include "paperoutput/LongDateClock.h"
@@ -145,7 +145,6 @@ TEST(SavedJobValues, RestoreAndSave)
         const char* savedJobName;
         const char* passcode;
     } rows[] = {
-        {"fixed item", PropertyValue::integer(useJobName), false, true, "Minutes", "0042"},
         {"empty text", PropertyValue(QString("")), false, true, "Minutes", "0042"},
         {"typed text", PropertyValue(QString("Budget 2027")), true, false, "Budget 2027", "9876"},
     };
@@ -163,15 +162,9 @@ TEST(SavedJobValues, RestoreAndSave)
     }
 }
 
-TEST(BookletCreation, RadiosDetailsAndPreview)
+// (The radios and the details kept while the layout is off: JobTypeSetupsTest.)
+TEST(BookletCreation, PreviewPictureForEveryFoldLayoutAndOutline)
 {
-    EXPECT_EQ(FoldRadioIndex(kBookletFold), 1);
-    EXPECT_EQ(FoldRadioIndex(kBookletFoldStaple), 2);
-    EXPECT_EQ(FoldRadioIndex(kCFold), 0); // any other fold shows "None"
-    EXPECT_EQ(FoldForRadio(FoldRadioIndex(kBookletFoldStaple)), kBookletFoldStaple);
-    EXPECT_EQ(LayoutForRadio(LayoutRadioIndex(kBookletLayoutOn)), kBookletLayoutOn);
-    EXPECT_EQ(LayoutForRadio(LayoutRadioIndex(0)), kBookletLayoutOff);
-
     const struct
     {
         std::int32_t fold, layout, outlines;
@@ -193,16 +186,6 @@ TEST(BookletCreation, RadiosDetailsAndPreview)
         EXPECT_FALSE(PluginBundle().resourcePath(PaperOutputImagePath(name)).isEmpty())
             << name.toStdString();
     }
-
-    // Layout off: the details come back as they were held.
-    const BookletCreationParams held{kFinishingNone, kBookletLayoutOn, kDrawOutlinesOn, 7, 36, 15};
-    const BookletCreationParams read{
-        kBookletFold, kBookletLayoutOff, kDrawOutlinesOff, kUnset, 0, 0};
-    EXPECT_EQ(BookletValuesRead(held, read),
-              (BookletCreationParams{kBookletFold, kBookletLayoutOff, kDrawOutlinesOn, 7, 36, 15}));
-    BookletCreationParams on = read;
-    on.layout = kBookletLayoutOn;
-    EXPECT_EQ(BookletValuesRead(held, on), on);
 }
 
 } // namespace

@@ -20,31 +20,6 @@ using testing::InstalledOptionsGuard;
 using testing::kSamplePpd;
 using testing::WriteSampleVariant;
 
-// Every key a menu shows has an English text.
-TEST(SettingMaps, EveryKeyHasAText)
-{
-    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
-    // clang-format off
-    const _SettingMap* const maps[] = {
-        _BookletLayoutOrderMap, _RotateImageMap, _OutputOptionsMap, _PrinterEmulationMap,
-        _OPISubsitutionMap, _OPIPrescanMap, _OnOffMap, _WatermarkMap, _WatermarkOptionsMap,
-        _EnabledDisabledMap, _PageBordersMap, _BookletWatermarkBackgroundFormsMap, _CoverSheetMap,
-        _ConfirmationSheetMap, _FaxSendSpeedMap, _FaxResolutionMap, _CoverSheetImageMap,
-        _CoverSheetSenderMap, _CoverSheetRecipientMap, _TabStockRadioMap, _TabStockSetupMap,
-        _PrintQualityMap, _PrintingOptimizationMap, _AdvancedMirrorImageMap,
-        _CoverSidesSimplexImagedMap, _CoverSidesDuplexImagedMap, _CoverSidesImagedMap,
-        _FolderNameMap, _SavedJobSaveOptionRadioMap, _JobNameMap, _LoginNameMap, _PlexMap,
-        _ResolutionMap, _JobTypeMap, _SeparatorOptionMap, _FaxCoverSizeMap};
-    // clang-format on
-    for (const _SettingMap* map : maps)
-        for (const _SettingMap* row = map; row->key; ++row)
-            EXPECT_TRUE(bundle.localizedString(row->key)) << row->key;
-    for (const char* key : {"PrinterDefault", "UseJobSetting"})
-        EXPECT_TRUE(bundle.localizedString(key)) << key;
-    for (const _InstalledFeatureMap* row = _InstalledFeatures; row->featureKey; ++row)
-        EXPECT_TRUE(!row->textKey || bundle.localizedString(row->textKey)) << row->textKey;
-}
-
 TEST(SettingMapLookup, ScanRules)
 {
     InstalledOptionsGuard nothingInstalled;
