@@ -26,13 +26,14 @@ protected:
         EXPECT_TRUE(widget) << name;
         return widget;
     }
-    // Whether the label shows the bundle's picture of that name.
+    // Whether the label shows the bundle's picture of that name (which must exist).
     bool shows(const char* label, const char* picture)
     {
         const auto format = QImage::Format_ARGB32_Premultiplied;
         const QImage expected(testing::PluginBundle().resourcePath(QString("images/") + picture));
-        return !expected.isNull() && control<QLabel>(label)->pixmap().toImage().convertToFormat(
-                                         format) == expected.convertToFormat(format);
+        const QImage actual = control<QLabel>(label)->pixmap().toImage();
+        return !expected.isNull() &&
+               actual.convertToFormat(format) == expected.convertToFormat(format);
     }
     // The check boxes and the pop-up as "negative mirror toner-saver resolution".
     QString shown()
