@@ -216,7 +216,7 @@ TEST_F(SetupDialogs, SecureSavedJobUsesTheJobNameAndKeepsThePasscodeOutOfHistory
                       }) == false);
 }
 
-TEST_F(SetupDialogs, BookletLayoutKeepsItsDetailsAndForcesTwoSided)
+TEST_F(SetupDialogs, BookletDialogsKeepHeldDetailsWhileLayoutIsOffAndClampTheGutter)
 {
     PaperOutputRecord& record = model.record();
     record.twoSided = kSimplex;
