@@ -1,6 +1,7 @@
 #include "ui/AlertBox.h"
 #include "ui/CustomValueDialog.h"
 #include "ui/Help.h"
+#include "ui/LocalizedTitles.h"
 #include "ui/SummaryView.h"
 
 #include "settings/Bundle.h"
@@ -8,6 +9,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -171,4 +174,19 @@ TEST(Alerts, LevelsShowAsMessageBoxIcons)
     SetAlertPresenter(std::move(previous));
     EXPECT_EQ(shownIcon, QMessageBox::Critical);
     EXPECT_EQ(shownText, "Invalid page range|Enter pages between 1 and 999.");
+}
+
+TEST(LocalizedTitles, KeysAreLookedUpAndFormatted)
+{
+    const Bundle bundle(ORVAN_PLUGIN_DIR, "en");
+    QWidget window;
+    auto* label = new QLabel(&window);
+    auto* group = new QGroupBox(&window);
+    SetLocalizedStaticText(&bundle, "CustomValueTitle", label);
+    EXPECT_EQ(label->text(), "Custom Value");
+    // A key without a text is its own format.
+    SetLocalizedControlTitle(&bundle, "Copies %1 of %2", group, {"2", "5"});
+    EXPECT_EQ(group->title(), "Copies 2 of 5");
+    SetLocalizedWindowTitle(&bundle, "PrinterDefault", label); // the label's window
+    EXPECT_EQ(window.windowTitle(), "Printer Default");
 }
