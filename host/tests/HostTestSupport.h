@@ -32,7 +32,9 @@ inline void StartCupsWithSampleQueue(std::unique_ptr<CupsServer>& server)
     QString why;
     server = CupsServer::start(&why);
     ASSERT_TRUE(server) << why.toStdString();
-    ASSERT_TRUE(server->addFileQueue("Meridian", SamplePpdPath(), &why)) << why.toStdString();
+    ASSERT_TRUE(server->addQueue("Meridian", "file://" + server->outputFile("Meridian"),
+                                 SamplePpdPath(), &why))
+        << why.toStdString();
 }
 
 // The environment of a script: no display, and no print server unless the
@@ -117,7 +119,7 @@ inline void SelectConfidentialWatermark(Ticket& ticket)
 
 // The description of an IPP printer with a finisher, for ippeveprinter's -a:
 // trays, paper types and colours, staples and punches, bins, covers, inserts,
-// exception pages, passcodes and job notes.
+// exception pages, passcodes, job notes and fax.
 inline bool WriteFinisherPrinterAttributes(const QString& path)
 {
     QFile file(path);
@@ -147,10 +149,6 @@ ATTR enum print-quality-supported 3,4,5
 ATTR resolution printer-resolution-supported 600dpi,1200dpi,200x100dpi,200dpi
 ATTR enum orientation-requested-supported 3,4
 ATTR rangeOfInteger number-up-supported 1-16
-ATTR keyword proof-print-supported proof-print-copies
-ATTR keyword job-storage-supported job-storage-access,job-storage-disposition,job-storage-group
-ATTR keyword job-storage-access-supported owner,public
-ATTR keyword job-storage-disposition-supported print-and-store,store-only
 ATTR rangeOfInteger job-hold-until-time-supported 0-2147483647
 ATTR keyword destination-uris-supported destination-uri,pre-dial-string
 ATTR keyword cover-sheet-info-supported message,from-name
