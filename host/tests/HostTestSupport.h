@@ -76,20 +76,15 @@ inline RunResult RunOrvanPrint(const QStringList& arguments,
     return result;
 }
 
-// The text page n of a document made by WritePostScriptDocument shows.
-inline QByteArray PageMarker(int page)
-{
-    return "(orvan test page " + QByteArray::number(page) + ')';
-}
-
+// Page n shows "orvan test page n".
 inline bool WritePostScriptDocument(const QString& path, int pages)
 {
     QByteArray text = "%!PS-Adobe-3.0\n%%Pages: " + QByteArray::number(pages) +
                       "\n%%BoundingBox: 0 0 612 792\n%%EndComments\n%%EndProlog\n";
     for (int page = 1; page <= pages; ++page)
         text += "%%Page: " + QByteArray::number(page) + ' ' + QByteArray::number(page) +
-                "\n/Helvetica findfont 20 scalefont setfont 72 700 moveto " + PageMarker(page) +
-                " show showpage\n";
+                "\n/Helvetica findfont 20 scalefont setfont 72 700 moveto (orvan test page " +
+                QByteArray::number(page) + ") show showpage\n";
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(text + "%%Trailer\n%%EOF\n") > 0;
 }
