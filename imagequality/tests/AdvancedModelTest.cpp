@@ -105,39 +105,5 @@ TEST_F(AdvancedModelTest, EventsPassOnAndOnlyAboutAsksForADialog)
     EXPECT_EQ(model.sync(nullptr, true), kSyncMissingContext);
 }
 
-TEST(AdvancedModelDefaults, WithoutTicketChoicesThePpdDefaultsAreRead)
-{
-    testing::CurrentPpd ppd(testing::kNoResolutionPpd);
-    AdvancedModel model;
-    ::testing::internal::CaptureStderr(); // it has no JCLBanner
-    model.load(&testing::PluginBundle(), ppd.get());
-    ::testing::internal::GetCapturedStderr();
-    PrintSession session;
-    ASSERT_EQ(model.sync(&session, true), kNoError);
-    EXPECT_EQ(model.outputOption(), 1);  // default True
-    EXPECT_EQ(model.requestOffset(), 1); // default EndOfSet
-    ASSERT_EQ(model.sync(&session, false), kNoError);
-    EXPECT_FALSE(session.printSettings().ppdDictionary().contains("JCLBanner"));
-}
-
-TEST(ProductInfo, ComesFromTheBundlesInfoDictionary)
-{
-    QTemporaryDir folder;
-    QFile info(folder.filePath("Info.plist"));
-    ASSERT_TRUE(info.open(QIODevice::WriteOnly));
-    info.write(R"(<?xml version="1.0" encoding="UTF-8"?>
-<plist version="1.0"><dict>
-<key>CFBundleName</key><string>Test Features</string>
-<key>CFBundleShortVersionString</key><string>2.1</string>
-<key>CFBundleVersion</key><string>77</string>
-<key>CFBundleGetInfoString</key><string>not this</string>
-</dict></plist>)");
-    info.close();
-    const Bundle bundle(folder.path()); // no string tables: the built-in formats
-    const ProductInfo product = ProductInfoFromBundle(&bundle);
-    EXPECT_EQ(ProductAboutTitle(&bundle, product), "About Test Features");
-    EXPECT_EQ(ProductVersionLine(&bundle, product), "Version 2.1 (77)");
-}
-
 } // namespace
 } // namespace orvan

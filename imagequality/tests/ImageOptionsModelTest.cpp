@@ -73,14 +73,6 @@ TEST(ImageOptionsModel, ReadsAndWritesTheChoicesLeavingAnUnknownOneAlone)
     EXPECT_EQ(model.resolution(), 2); // the PPD's defaults: 600x600dpi, no toner saver
     EXPECT_FALSE(model.tonerSaverOn());
 
-    SetPpdChoice(session, "QVEconomode", "Draft");
-    ASSERT_EQ(model.sync(&session, true, {}), kNoError);
-    EXPECT_TRUE(model.tonerSaverOn());
-    model.chooseResolution(7);
-    ASSERT_EQ(model.sync(&session, false, {}), kNoError);
-    EXPECT_EQ(PpdChoice(session, "Resolution"), "1800x1800dpi");
-    EXPECT_EQ(PpdChoice(session, "QVEconomode"), "Draft");
-
     // An unknown choice selects nothing (-1), which writes nothing back.
     SetPpdChoice(session, "Resolution", "2400x2400dpi");
     ASSERT_EQ(model.sync(&session, true, {}), kNoError);
@@ -88,37 +80,6 @@ TEST(ImageOptionsModel, ReadsAndWritesTheChoicesLeavingAnUnknownOneAlone)
     ASSERT_EQ(model.sync(&session, false, {}), kNoError);
     EXPECT_EQ(PpdChoice(session, "Resolution"), "2400x2400dpi");
     EXPECT_EQ(model.sync(nullptr, false, {}), kSyncMissingContext);
-}
-
-TEST(ImageOptionsModel, PpdWithoutResolutionGivesAnEmptyMenuAndOneDiagnostic)
-{
-    CurrentPpd ppd(testing::kNoResolutionPpd);
-    ImageOptionsModel model;
-    ::testing::internal::CaptureStderr();
-    model.load(ppd.get());
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
-              "Expected PPD option not found: Resolution\n");
-    EXPECT_TRUE(model.resolutionMenu().isEmpty());
-    PrintSession session;
-    ASSERT_EQ(model.sync(&session, true, {}), kNoError);
-    EXPECT_TRUE(model.tonerSaverOn()); // this PPD defaults to Draft
-    ASSERT_EQ(model.sync(&session, false, {}), kNoError);
-    EXPECT_FALSE(session.printSettings().ppdDictionary().contains("Resolution"));
-}
-
-// (The panel's tests check which picture each state shows.)
-TEST(ImageOptionsModel, PicturesAreInTheBundleAndAnUnknownResolutionShows600)
-{
-    ImageOptionsModel model;
-    model.chooseResolution(-1);
-    EXPECT_EQ(model.resolutionPicture(), "ImageOptions_Resolution_600.png");
-    for (const char* name :
-         {"Resolution_600", "Resolution_1200", "Resolution_1800", "TonerSaver_On", "TonerSaver_Off",
-          "InvertImage_Off", "InvertImage_Mirror"})
-        EXPECT_FALSE(testing::PluginBundle()
-                         .resourcePath(QStringLiteral("images/ImageOptions_%1.png").arg(name))
-                         .isEmpty())
-            << name;
 }
 
 } // namespace

@@ -26,13 +26,14 @@ protected:
         EXPECT_TRUE(widget) << name;
         return widget;
     }
-    // Whether the label shows the bundle's picture of that name.
+    // Whether the label shows the bundle's picture of that name (which must exist).
     bool shows(const char* label, const char* picture)
     {
         const auto format = QImage::Format_ARGB32_Premultiplied;
         const QImage expected(testing::PluginBundle().resourcePath(QString("images/") + picture));
-        return control<QLabel>(label)->pixmap().toImage().convertToFormat(format) ==
-               expected.convertToFormat(format);
+        const QImage actual = control<QLabel>(label)->pixmap().toImage();
+        return !expected.isNull() &&
+               actual.convertToFormat(format) == expected.convertToFormat(format);
     }
     // The check boxes and the pop-up as "negative mirror toner-saver resolution".
     QString shown()
@@ -62,16 +63,20 @@ TEST_F(ImageOptionsPanelTest, ReadingShowsTheTicketInTheControlsAndPictures)
     EXPECT_TRUE(shows("TonerSaverPicture", "ImageOptions_TonerSaver_On.png"));
     EXPECT_TRUE(shows("InvertImagePicture", "ImageOptions_InvertImage_Mirror.png"));
 
-    // Without the item both boxes clear; an unknown resolution selects nothing.
+    // Without the item both boxes clear; an unknown resolution selects
+    // nothing and shows the 600 dpi picture.
     session.printSettings().releaseItem(kInvertImageOptionsKey);
     SetPpdChoice(session, "Resolution", "2400x2400dpi");
     ASSERT_EQ(panel.sync(&session, true), kNoError);
     EXPECT_EQ(shown(), "0 0 1 ");
+    EXPECT_TRUE(shows("ResolutionPicture", "ImageOptions_Resolution_600.png"));
+    EXPECT_TRUE(shows("InvertImagePicture", "ImageOptions_InvertImage_Off.png"));
 }
 
 TEST_F(ImageOptionsPanelTest, UsersChoicesReachTheTicketAndThePictures)
 {
     ASSERT_EQ(panel.sync(&session, true), kNoError);
+    EXPECT_TRUE(shows("TonerSaverPicture", "ImageOptions_TonerSaver_Off.png"));
     auto* resolution = control<QComboBox>("ResolutionPopup");
     const int index = resolution->findText("1800 dpi");
     resolution->setCurrentIndex(index);

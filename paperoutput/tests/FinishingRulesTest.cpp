@@ -268,8 +268,6 @@ TEST(PaperOutputIcons, NamesFollowTheValues)
              r.twoSided = kDuplexShortEdge;
          },
          "OfficeFinishing_2St&4Hp.gif", "2SidedPrinting_2SidedFlip.gif"},
-        {[](PaperOutputRecord& r) { r.punch = kTwoHolePunch; }, "OfficeFinishing_2Hp.gif",
-         "2SidedPrinting_1Sided.gif"},
         {[](PaperOutputRecord& r) { r.fold = kBookletFoldStaple; },
          "OfficeFinishing_BKlt_Fold&Stple.gif", "2SidedPrinting_1Sided.gif"},
         {[](PaperOutputRecord& r) {
@@ -278,8 +276,6 @@ TEST(PaperOutputIcons, NamesFollowTheValues)
              r.twoSided = kDuplexShortEdge;
          },
          "OfficeFinishing_Bklt_Fold&Stpl_Layout.gif", "2SidedPrinting_2Sided.gif"},
-        {[](PaperOutputRecord& r) { r.bookletLayout = kBookletLayoutOn; },
-         "OfficeFinishing_Bklt_Layout.gif", "2SidedPrinting_2Sided.gif"},
     };
     for (const auto& row : rows) {
         PaperOutputRecord record;

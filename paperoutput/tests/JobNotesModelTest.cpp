@@ -1,5 +1,4 @@
 #include "paperoutput/JobNotesModel.h"
-#include "platform/SystemFacts.h"
 #include "settings/PrintSession.h"
 
 #include <QDir>
@@ -41,7 +40,6 @@ TEST_F(JobNotesTest, DefaultsReadAsOnUnlessTheFileSaysOtherwise)
         JobNotesPreferencesOptions expected;
     } cases[] = {
         {nullptr, {1, 1, 1}},
-        {"not a property list", {1, 1, 1}},
         {"<plist><dict><key>useLoginNameAsSenderName</key><integer>0</integer></dict></plist>",
          {1, 0, 1}},
         {"<plist><dict><key>useDocumentNameAsJobName</key><string>0</string></dict></plist>",
@@ -65,43 +63,25 @@ TEST_F(JobNotesTest, DefaultsReadAsOnUnlessTheFileSaysOtherwise)
     EXPECT_EQ(stored, (JobNotesPreferencesOptions{0, 1, 0}));
 }
 
-TEST_F(JobNotesTest, WritingTheTicket)
+// Names neither typed nor automatic, and empty banner texts, remove their
+// items rather than writing "". (Typed and login names: JobNotesPrintTest.)
+TEST_F(JobNotesTest, WritingEmptyNamesAndMessagesRemovesTheirItems)
 {
-    const QString login = SessionUserName().value_or(QString());
-    const struct
-    {
-        JobNotesNameField name;
-        std::optional<QString> written; // nullopt: the item is removed
-    } cases[] = {
-        {{"Quarterly report", false}, QString("Quarterly report")},
-        {{"", true}, login},
-        {{"", false}, std::nullopt},
-    };
-    const QString nameKeys[] = {kJobNotesJobNameKey, kJobNotesSenderNameKey, kJobNotesRecipientKey};
-    const QString flagKeys[] = {kJobNotesUseJobNameKey, kJobNotesSenderUseLoginNameKey,
-                                kJobNotesRecipientUseLoginNameKey};
-    for (const auto& c : cases) {
-        JobNotesModel model;
-        const std::int32_t on = c.name.automatic ? 1 : 0;
-        model.applyDefaults({on, on, on});
-        for (JobNotesName which : kJobNotesNames)
-            if (!c.name.typed.isEmpty())
-                model.setName(which, kNoError, PropertyValue(c.name.typed));
-        model.setJobStartMessage("Load letterhead");
-        Ticket ticket;
-        for (const QString& key :
-             {kJobNotesJobNameKey, kJobNotesSheetMessageKey, kJobNotesAdditionalInfoKey})
-            ticket.setItem(kPanelClient, key, PropertyValue("stale"));
-        ASSERT_EQ(model.syncToTicket(ticket), kNoError);
-        for (std::size_t i = 0; i < 3; ++i) {
-            EXPECT_EQ(ticket.boolean(flagKeys[i]), c.name.automatic) << i;
-            EXPECT_EQ(ticket.string(nameKeys[i]), c.written) << i;
-        }
-        EXPECT_EQ(ticket.item(kJobNotesMessageKey)->client, kPanelClient);
-        // An empty banner message removes its item rather than writing "".
-        EXPECT_FALSE(ticket.containsItem(kJobNotesSheetMessageKey));
-        EXPECT_FALSE(ticket.containsItem(kJobNotesAdditionalInfoKey));
-    }
+    JobNotesModel model;
+    model.applyDefaults({0, 0, 0});
+    model.setJobStartMessage("Load letterhead");
+    Ticket ticket;
+    for (const QString& key :
+         {kJobNotesJobNameKey, kJobNotesSheetMessageKey, kJobNotesAdditionalInfoKey})
+        ticket.setItem(kPanelClient, key, PropertyValue("stale"));
+    ASSERT_EQ(model.syncToTicket(ticket), kNoError);
+    for (const QString& key : {kJobNotesUseJobNameKey, kJobNotesSenderUseLoginNameKey,
+                               kJobNotesRecipientUseLoginNameKey})
+        EXPECT_EQ(ticket.boolean(key), false) << key.toStdString();
+    for (const QString& key : {kJobNotesJobNameKey, kJobNotesSenderNameKey, kJobNotesRecipientKey,
+                               kJobNotesSheetMessageKey, kJobNotesAdditionalInfoKey})
+        EXPECT_FALSE(ticket.containsItem(key)) << key.toStdString();
+    EXPECT_EQ(ticket.item(kJobNotesMessageKey)->client, kPanelClient);
 }
 
 TEST_F(JobNotesTest, ReadingTheTicket)

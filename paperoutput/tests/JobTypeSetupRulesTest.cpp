@@ -1,6 +1,6 @@
 // The setup dialogs' rules without a display: passcode pairs and their
 // alerts, the long date-time scale and delayed times, saved-job values, and
-// the booklet dialog's radios, details and preview.
+// the booklet dialog's preview pictures.
 #include "paperoutput/JobTypeSetupRules.h"
 #include "paperoutput/BookletCreation.h"
 #include "paperoutput/LongDateClock.h"
@@ -43,11 +43,10 @@ TEST_F(PasscodeRules, PairsAreAcceptedReplacedOrRefusedWithTheirAlert)
         const char* result; // 123456 mod 9000 + 1000 = 7456
         const char* alertTitle;
     } rows[] = {
+        // (Ten digits and a typed mismatch: the dialog's test.)
         {"0012", "0012", true, "0012", nullptr},
-        {"1234567890", "1234567890", true, "1234567890", nullptr},
         {"123", "123", true, "7456", "Passcode Required Header"},
         {"", "", true, "7456", "Passcode Required Header"},
-        {"12345", "12346", false, "", "Invalid Secure Print Passcode Header"},
         {"1234", "", false, "", "Invalid Secure Print Passcode Header"},
     };
     for (const auto& row : rows) {
@@ -112,10 +111,6 @@ TEST(LongDateClock, WallClockSecondsSince1904)
     EXPECT_EQ(DelayedPrintSeconds(QTime(15, 30, 20), now), at + 20);         // this second: today
     EXPECT_EQ(DelayedPrintSeconds(QTime(15, 30, 19), now), at + 19 + 86400); // past: tomorrow
     EXPECT_EQ(DelayedPrintSeconds(QTime(0, 0), QDateTime(date, QTime(0, 0))), midnight);
-
-    const NowSource previous = SetNowSource([now] { return now; });
-    EXPECT_EQ(CurrentLocalDateTime(), now);
-    SetNowSource(previous);
 }
 
 TEST(SavedJobValues, RestoreAndSave)
@@ -145,7 +140,6 @@ TEST(SavedJobValues, RestoreAndSave)
         const char* savedJobName;
         const char* passcode;
     } rows[] = {
-        {"fixed item", PropertyValue::integer(useJobName), false, true, "Minutes", "0042"},
         {"empty text", PropertyValue(QString("")), false, true, "Minutes", "0042"},
         {"typed text", PropertyValue(QString("Budget 2027")), true, false, "Budget 2027", "9876"},
     };
@@ -163,15 +157,9 @@ TEST(SavedJobValues, RestoreAndSave)
     }
 }
 
-TEST(BookletCreation, RadiosDetailsAndPreview)
+// (The radios and the details kept while the layout is off: JobTypeSetupsTest.)
+TEST(BookletCreation, PreviewPictureForEveryFoldLayoutAndOutline)
 {
-    EXPECT_EQ(FoldRadioIndex(kBookletFold), 1);
-    EXPECT_EQ(FoldRadioIndex(kBookletFoldStaple), 2);
-    EXPECT_EQ(FoldRadioIndex(kCFold), 0); // any other fold shows "None"
-    EXPECT_EQ(FoldForRadio(FoldRadioIndex(kBookletFoldStaple)), kBookletFoldStaple);
-    EXPECT_EQ(LayoutForRadio(LayoutRadioIndex(kBookletLayoutOn)), kBookletLayoutOn);
-    EXPECT_EQ(LayoutForRadio(LayoutRadioIndex(0)), kBookletLayoutOff);
-
     const struct
     {
         std::int32_t fold, layout, outlines;
@@ -193,16 +181,6 @@ TEST(BookletCreation, RadiosDetailsAndPreview)
         EXPECT_FALSE(PluginBundle().resourcePath(PaperOutputImagePath(name)).isEmpty())
             << name.toStdString();
     }
-
-    // Layout off: the details come back as they were held.
-    const BookletCreationParams held{kFinishingNone, kBookletLayoutOn, kDrawOutlinesOn, 7, 36, 15};
-    const BookletCreationParams read{
-        kBookletFold, kBookletLayoutOff, kDrawOutlinesOff, kUnset, 0, 0};
-    EXPECT_EQ(BookletValuesRead(held, read),
-              (BookletCreationParams{kBookletFold, kBookletLayoutOff, kDrawOutlinesOn, 7, 36, 15}));
-    BookletCreationParams on = read;
-    on.layout = kBookletLayoutOn;
-    EXPECT_EQ(BookletValuesRead(held, on), on);
 }
 
 } // namespace

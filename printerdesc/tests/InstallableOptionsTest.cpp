@@ -132,20 +132,5 @@ TEST_F(DeviceProfileTest, FeaturesPropertiesAndKeywords)
     EXPECT_EQ(QDPGetFeaturesWithProperty("Category").size(), 0u);
 }
 
-// Every feature's default is the sample printer's, where the PPD has the option.
-TEST_F(DeviceProfileTest, DefaultsAgreeWithTheSamplePrinter)
-{
-    ASSERT_TRUE(QDPInitialize(&m_bundle));
-    PpdFilePtr ppd = OpenOrFail(kSamplePpd);
-    const PropertyValue features = QDPGetFeaturesWithProperty("Category");
-    ASSERT_GT(features.size(), 10u);
-    for (const PropertyValue& feature : features.asArray()) {
-        const QString keyword = QDPGetFeatureKeyword(&feature)->toString();
-        if (const auto ppdDefault = PPDCopyDefaultChoice(ppd.get(), keyword))
-            EXPECT_EQ(QDPGetFeatureDefaultValue(&feature)->toString(), *ppdDefault)
-                << qPrintable(keyword);
-    }
-}
-
 } // namespace
 } // namespace orvan

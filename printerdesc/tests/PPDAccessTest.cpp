@@ -209,20 +209,5 @@ TEST_F(CurrentPPDTest, OpenedOnceFromTheSessionsPrinterOrNull)
     EXPECT_EQ(PPDGetCurrent(), nullptr) << "no session";
 }
 
-TEST_F(CurrentPPDTest, MediaLimitsComeFromTheCustomSizeRange)
-{
-    const auto limits = [] {
-        std::vector<double> values(4);
-        GetMediaLimits(&values[0], &values[1], &values[2], &values[3]);
-        return values;
-    };
-    const std::vector<double> fallback = {432, 432, 864, 864};
-    EXPECT_EQ(limits(), fallback) << "no PPD";
-    PPDSetCurrent(OpenOrFail(kSamplePpd));
-    EXPECT_EQ(limits(), (std::vector<double>{216, 360, 936, 1368}));
-    PPDSetCurrent(OpenOrFail(TestPpdPath("utf8.ppd")));
-    EXPECT_EQ(limits(), fallback) << "no custom sizes";
-}
-
 } // namespace
 } // namespace orvan
