@@ -36,6 +36,12 @@ void WriteFile(const QString& path, const QString& text)
         file.write(text.toUtf8()); // a server that cannot read it says so
 }
 
+QString ReadText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+}
+
 // Polls until done() holds, for at most ms; whether it held.
 bool PollUntil(int ms, const std::function<bool()>& done)
 {
@@ -49,7 +55,7 @@ bool PollUntil(int ms, const std::function<bool()>& done)
 
 // The server's answer to Get-Printer-Attributes on its printer at resource,
 // or Get-Job-Attributes when jobId is not 0; null when nothing answers.
-std::unique_ptr<ipp_t, decltype(&ippDelete)> Request(int port, const char* resource, int jobId = 0)
+IppResponse Request(int port, const char* resource, int jobId = 0)
 {
     const std::unique_ptr<http_t, decltype(&httpClose)> http(
         httpConnect2("127.0.0.1", port, nullptr, AF_INET, HTTP_ENCRYPTION_NEVER, 1, 1000, nullptr),
@@ -195,8 +201,7 @@ CupsServer::~CupsServer()
 
 QString CupsServer::errorLog() const
 {
-    QFile log(m_root.filePath("log/error_log"));
-    return log.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(log.readAll()) : QString();
+    return ReadText(m_root.filePath("log/error_log"));
 }
 
 bool CupsServer::addQueue(const QString& name, const QString& deviceUri, const QString& ppd,
@@ -279,8 +284,7 @@ IppEveryWherePrinter::start(const QString& name, QString* error, const QString& 
 
 QString IppEveryWherePrinter::output() const
 {
-    QFile log(m_root.filePath("printer.log"));
-    return log.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(log.readAll()) : QString();
+    return ReadText(m_root.filePath("printer.log"));
 }
 
 bool IppEveryWherePrinter::logged(const QString& text) const
@@ -288,10 +292,9 @@ bool IppEveryWherePrinter::logged(const QString& text) const
     return PollUntil(kStartMs, [&] { return output().contains(text); });
 }
 
-std::unique_ptr<ipp_t, void (*)(ipp_t*)> IppEveryWherePrinter::job(int jobId) const
+IppResponse IppEveryWherePrinter::job(int jobId) const
 {
-    auto response = Request(m_port, "/ipp/print", jobId);
-    return {response.release(), &ippDelete};
+    return Request(m_port, "/ipp/print", jobId);
 }
 
 QStringList IppEveryWherePrinter::receivedDocuments() const

@@ -18,6 +18,7 @@ namespace orvan::testing {
 
 // A job's attributes as the server reports them, as text by name.
 using JobAttributes = QMap<QString, QString>;
+using IppResponse = std::unique_ptr<ipp_t, decltype(&ippDelete)>;
 
 // A server process: it dies with the test process and is stopped (SIGTERM,
 // then SIGKILL) when its owner goes.
@@ -46,11 +47,7 @@ public:
     // (lpadmin leaves it stopped and rejecting otherwise).
     bool addQueue(const QString& name, const QString& deviceUri, const QString& ppd, QString* error,
                   bool enabled = true);
-    // A queue whose output, the last filter's, lands in outputFile(name).
-    bool addFileQueue(const QString& name, const QString& ppd, QString* error)
-    {
-        return addQueue(name, QStringLiteral("file://") + outputFile(name), ppd, error);
-    }
+    // Where a queue on "file://" + outputFile(queue) puts its last filter's output.
     QString outputFile(const QString& queue) const { return m_root.filePath("output/" + queue); }
     // Polls the job until it ends or a bound passes; its attributes as last
     // seen (none when the server does not know it).
@@ -86,7 +83,7 @@ public:
     // Waits, within a bound, until the printer's log shows the text.
     bool logged(const QString& text) const;
     // The printer's own record of its job: Get-Job-Attributes, every attribute.
-    std::unique_ptr<ipp_t, void (*)(ipp_t*)> job(int jobId) const;
+    IppResponse job(int jobId) const;
 
 private:
     IppEveryWherePrinter() = default;

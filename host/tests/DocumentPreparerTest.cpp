@@ -1,6 +1,7 @@
 // Documents as they are printed or saved and as the preview draws them: the
 // watermark over, under or blended with the pages, pages laid out on sheets,
-// PostScript input, and files that cannot be printed.
+// and files that cannot be printed. (PostScript input: JobSubmissionTest's
+// headless print.)
 #include "host/DocumentPreparer.h"
 #include "host/PreviewRenderer.h"
 #include "host/tests/HostTestSupport.h"
@@ -131,17 +132,6 @@ TEST_F(DocumentPreparerTest, FirstPageOnlyStampsTheFirstPageOfTheRange)
         EXPECT_EQ(pageText(*copy, page).contains(kWatermarkText), page == 1) << page;
 }
 
-TEST_F(DocumentPreparerTest, PostScriptIsConvertedFirst)
-{
-    ASSERT_TRUE(WritePostScriptDocument(path("in.ps"), 3));
-    DocumentPreparation preparation;
-    preparation.sheets = PageSetup{{"A4", "A4", kA4Points}, Orientation::Portrait, 4};
-    ASSERT_TRUE(PrepareDocument(path("in.ps"), preparation, path("out.pdf")).ok());
-    const auto saved = openPdf(path("out.pdf"));
-    ASSERT_EQ(saved->numPages(), 1);
-    EXPECT_TRUE(pageText(*saved, 0).contains("orvan test page 3"));
-}
-
 // The preview, the check before Print and the preparation agree on what
 // cannot be printed, and say it naming the file; nothing is written.
 TEST_F(DocumentPreparerTest, FilesThatCannotBePrintedAreRefusedWithTheReason)
@@ -153,7 +143,7 @@ TEST_F(DocumentPreparerTest, FilesThatCannotBePrintedAreRefusedWithTheReason)
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("%PDF-1.7\nnot really\n") > 0);
     broken.close();
     ASSERT_TRUE(WritePdfDocument(path("locked.pdf"), 2, kA4Points, "secret"));
-    ASSERT_TRUE(WriteEmptyPdf(path("empty.pdf")));
+    ASSERT_TRUE(WritePdfDocument(path("empty.pdf"), 0));
     const struct
     {
         const char* file;

@@ -141,13 +141,6 @@ TEST_F(OrvanPrintProcess, SavedTicketKeepsTheItemsItWasGivenWithClientsAndLocks)
         EXPECT_TRUE(kept && *kept == item) << key.toStdString();
     }
     EXPECT_EQ(saved.pageFormat(), given.pageFormat());
-    // Nested numbers keep their types, in the saved file and the dump.
-    for (const PrintSession* session : {&dumped, &std::as_const(saved)}) {
-        const PropertyValue* layout = session->printSettings().value("com.example.editor.Layout");
-        ASSERT_TRUE(layout);
-        EXPECT_EQ(layout->find("Columns")->numberType(), NumberType::SInt32);
-        EXPECT_EQ(layout->find("Scale")->numberType(), NumberType::Float32);
-    }
     // What was saved is what was printed.
     EXPECT_EQ(dumped.printSettings(), saved.printSettings());
     // Saving to a device writes through it instead of replacing it.

@@ -32,7 +32,9 @@ inline void StartCupsWithSampleQueue(std::unique_ptr<CupsServer>& server)
     QString why;
     server = CupsServer::start(&why);
     ASSERT_TRUE(server) << why.toStdString();
-    ASSERT_TRUE(server->addFileQueue("Meridian", SamplePpdPath(), &why)) << why.toStdString();
+    ASSERT_TRUE(server->addQueue("Meridian", "file://" + server->outputFile("Meridian"),
+                                 SamplePpdPath(), &why))
+        << why.toStdString();
 }
 
 // The environment of a script: no display, and no print server unless the
@@ -74,20 +76,15 @@ inline RunResult RunOrvanPrint(const QStringList& arguments,
     return result;
 }
 
-// The text page n of a document made by WritePostScriptDocument shows.
-inline QByteArray PageMarker(int page)
-{
-    return "(orvan test page " + QByteArray::number(page) + ')';
-}
-
+// Page n shows "orvan test page n".
 inline bool WritePostScriptDocument(const QString& path, int pages)
 {
     QByteArray text = "%!PS-Adobe-3.0\n%%Pages: " + QByteArray::number(pages) +
                       "\n%%BoundingBox: 0 0 612 792\n%%EndComments\n%%EndProlog\n";
     for (int page = 1; page <= pages; ++page)
         text += "%%Page: " + QByteArray::number(page) + ' ' + QByteArray::number(page) +
-                "\n/Helvetica findfont 20 scalefont setfont 72 700 moveto " + PageMarker(page) +
-                " show showpage\n";
+                "\n/Helvetica findfont 20 scalefont setfont 72 700 moveto (orvan test page " +
+                QByteArray::number(page) + ") show showpage\n";
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(text + "%%Trailer\n%%EOF\n") > 0;
 }
@@ -117,7 +114,7 @@ inline void SelectConfidentialWatermark(Ticket& ticket)
 
 // The description of an IPP printer with a finisher, for ippeveprinter's -a:
 // trays, paper types and colours, staples and punches, bins, covers, inserts,
-// exception pages, passcodes and job notes.
+// exception pages, passcodes, job notes and fax.
 inline bool WriteFinisherPrinterAttributes(const QString& path)
 {
     QFile file(path);
@@ -147,10 +144,6 @@ ATTR enum print-quality-supported 3,4,5
 ATTR resolution printer-resolution-supported 600dpi,1200dpi,200x100dpi,200dpi
 ATTR enum orientation-requested-supported 3,4
 ATTR rangeOfInteger number-up-supported 1-16
-ATTR keyword proof-print-supported proof-print-copies
-ATTR keyword job-storage-supported job-storage-access,job-storage-disposition,job-storage-group
-ATTR keyword job-storage-access-supported owner,public
-ATTR keyword job-storage-disposition-supported print-and-store,store-only
 ATTR rangeOfInteger job-hold-until-time-supported 0-2147483647
 ATTR keyword destination-uris-supported destination-uri,pre-dial-string
 ATTR keyword cover-sheet-info-supported message,from-name

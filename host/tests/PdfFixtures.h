@@ -1,7 +1,6 @@
 // Small PDF files for the host's tests and benchmarks, written with qpdf:
 // pages that say which page they are, with a black left half for telling
-// what lies over and under a watermark; a one-page watermark; an encrypted
-// and an empty document.
+// what lies over and under a watermark; a one-page watermark.
 #pragma once
 
 #include <QByteArray>
@@ -56,7 +55,8 @@ inline std::string MarkedPageContent(int page, QSizeF size)
            PdfPageMarker(page).toStdString() + ") Tj ET\n";
 }
 
-// Pages with their markers; `userPassword` encrypts the file.
+// Pages with their markers (none: a document without pages); `userPassword`
+// encrypts the file.
 inline bool WritePdfDocument(const QString& path, int pages, QSizeF size = kA4Points,
                              const char* userPassword = nullptr)
 {
@@ -67,17 +67,6 @@ inline bool WritePdfDocument(const QString& path, int pages, QSizeF size = kA4Po
     if (userPassword)
         writer.setR6EncryptionParameters(userPassword, "owner", true, true, true, true, true, true,
                                          qpdf_r3p_full, true);
-    writer.write();
-    return true;
-}
-
-// A document without pages.
-inline bool WriteEmptyPdf(const QString& path)
-{
-    QPDF pdf;
-    pdf.emptyPDF();
-    const QByteArray fileName = QFile::encodeName(path); // the writer keeps the pointer
-    QPDFWriter writer(pdf, fileName.constData());
     writer.write();
     return true;
 }
