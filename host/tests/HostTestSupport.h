@@ -3,6 +3,8 @@
 // apart in a job's output, and a watermark selected for the job.
 #pragma once
 
+#include "tests/support/TestData.h"
+
 #include "host/WatermarkStampSource.h"
 #include "host/tests/CupsServer.h"
 #include "settings/PrintSession.h"
@@ -152,9 +154,3 @@ ATTR boolean confirmation-sheet-print-supported true
 }
 
 } // namespace orvan::testing
-
-// GoogleTest shows QStrings as text.
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}

@@ -2,6 +2,8 @@
 // plug-in's bundle in the build tree, and a session with one PPD choice set.
 #pragma once
 
+#include "tests/support/TestData.h"
+
 #include "imagequality/InvertImage.h"
 #include "printerdesc/PPDAccess.h"
 #include "settings/Bundle.h"
@@ -17,15 +19,8 @@
 #include <ostream>
 #include <utility>
 
-// Readable QStrings in failure messages.
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
-
 namespace orvan::testing {
 
-inline const QString kSamplePpd = ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd";
 inline const QString kNoResolutionPpd =
     ORVAN_SOURCE_DIR "/imagequality/tests/ppd/no-resolution.ppd";
 
@@ -46,13 +41,6 @@ public:
 
     ppd_file_t* get() const { return PPDGetCurrent(); }
 };
-
-// The plug-in folder of the build tree, with its string tables and pictures.
-inline const Bundle& PluginBundle()
-{
-    static const Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR));
-    return bundle;
-}
 
 inline QString PpdChoice(const PrintSession& session, const char* keyword)
 {

@@ -3,6 +3,8 @@
 // readable forms of menus, dictionaries and records.
 #pragma once
 
+#include "tests/support/TestData.h"
+
 #include "paperoutput/PaperOutputRecord.h"
 #include "printerdesc/InstallableOptions.h"
 #include "printerdesc/PPDAccess.h"
@@ -17,20 +19,7 @@
 
 #include <ostream>
 
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
-
 namespace orvan::testing {
-
-inline const QString kSamplePpd = ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd";
-
-inline const Bundle& PluginBundle()
-{
-    static const Bundle bundle(QStringLiteral(ORVAN_PLUGIN_DIR));
-    return bundle;
-}
 
 // Every finishing feature, each present when its installable option is
 // "True"; the trays always present when loaded.

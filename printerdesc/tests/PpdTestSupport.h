@@ -3,6 +3,8 @@
 // and a guard that leaves the installed options as it found them.
 #pragma once
 
+#include "tests/support/TestData.h"
+
 #include "printerdesc/InstallableOptions.h"
 #include "printerdesc/PPDAccess.h"
 
@@ -13,15 +15,7 @@
 
 #include <tuple>
 
-// Readable QStrings in failure messages.
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
-
 namespace orvan::testing {
-
-inline const QString kSamplePpd = ORVAN_SOURCE_DIR "/resources/bundle/ppd/Orvan-Meridian-5000.ppd";
 
 inline QString TestPpdPath(const char* name)
 {

@@ -78,7 +78,7 @@ protected:
     }
 
     testing::CurrentPrinterGuard printer;
-    std::unique_ptr<Bundle> bundle = testing::PluginBundle();
+    std::unique_ptr<Bundle> bundle = testing::EnglishPluginBundle();
     SpecialPagesModel model{bundle.get()};
     std::vector<Alert> alerts;
     std::vector<Question> questions;

@@ -35,7 +35,7 @@ protected:
     }
 
     CurrentPrinterGuard printer;
-    std::unique_ptr<Bundle> bundle = PluginBundle();
+    std::unique_ptr<Bundle> bundle = EnglishPluginBundle();
     PrintSession session;
     QWidget pane;
     SpecialPagesPanel panel{bundle.get()};

@@ -81,7 +81,7 @@ TEST(StockMenus, StockAndButtonMenusPerContextAndInstalledInserter)
 {
     QTemporaryDir folder;
     const QString noInserter = testing::WriteSampleVariant(folder, {{"Option9", "False"}});
-    const auto bundle = testing::PluginBundle();
+    const auto bundle = testing::EnglishPluginBundle();
     const QString stock = "Other Color>, Other Type>, -, -";
     const QString inserter = stock + ", Post-Print Inserter";
     const std::tuple<JobContext, bool, QString> cases[] = {

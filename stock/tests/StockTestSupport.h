@@ -62,7 +62,8 @@ inline PropertyValue Unflat(const QString& text)
     return dictionary;
 }
 
-inline std::unique_ptr<Bundle> PluginBundle()
+// The plug-in folder of the build tree, read in English whatever the locale.
+inline std::unique_ptr<Bundle> EnglishPluginBundle()
 {
     return std::make_unique<Bundle>(QStringLiteral(ORVAN_PLUGIN_DIR), QStringLiteral("en"));
 }
@@ -72,7 +73,7 @@ class SamplePrinterTest : public ::testing::Test
 {
 protected:
     CurrentPrinterGuard printer;
-    std::unique_ptr<Bundle> bundle = PluginBundle();
+    std::unique_ptr<Bundle> bundle = EnglishPluginBundle();
 };
 
 } // namespace orvan::testing

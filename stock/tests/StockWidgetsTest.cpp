@@ -114,7 +114,7 @@ TEST_F(StockButtonTest, MenuCommandsOpenTheDialogs)
 
 TEST(StockSummaryView, ShowStockSummaryNeedsBundleAndView)
 {
-    const auto bundle = testing::PluginBundle();
+    const auto bundle = testing::EnglishPluginBundle();
     QPlainTextEdit view("old");
     Stock stock;
     EXPECT_EQ(ShowStockSummary(nullptr, &view, &stock, JobContext::Job), kBadParameter);
@@ -127,7 +127,7 @@ TEST(StockSummaryView, ShowStockSummaryNeedsBundleAndView)
 
 TEST(StockIconDrawing, LayersPaintOverTheBase)
 {
-    const auto bundle = testing::PluginBundle();
+    const auto bundle = testing::EnglishPluginBundle();
     const auto middle = [&](const QStringList& images, const Bundle* from) {
         return RenderStockIcon(from, images, QSize(48, 48)).pixelColor(24, 24);
     };
@@ -151,7 +151,7 @@ TEST(StockIconDrawing, LayersPaintOverTheBase)
 
 TEST(CustomSizeDialog, ShowsUnitsAndKeepsUntouchedValuesExact)
 {
-    const auto bundle = testing::PluginBundle();
+    const auto bundle = testing::EnglishPluginBundle();
     const CustomPaperSizeLimits limits = CustomPaperSizeLimitsFromPoints(216, 360, 936, 1368);
     CustomSizeDialog dialog(bundle.get(), 2100, 2970, limits, PaperSizeUnit::Inches);
     auto* width = Child<QDoubleSpinBox>(&dialog, "CustomSizeWidth");
@@ -182,7 +182,7 @@ TEST(CustomSizeDialog, ShowsUnitsAndKeepsUntouchedValuesExact)
 
 TEST(AdvancedStockDialog, EditsTheAttributesAndCancelKeepsThem)
 {
-    const auto bundle = testing::PluginBundle();
+    const auto bundle = testing::EnglishPluginBundle();
     Stock stock;
     stock.setFinish(7); // from another program: kept as it is
     AdvancedStockDialog dialog(bundle.get(), stock, JobContext::Covers);
@@ -212,7 +212,7 @@ TEST(AdvancedStockDialog, EditsTheAttributesAndCancelKeepsThem)
 
 TEST(StockDescriptionSetup, NamesAndDescribesTheStockOnOKOnly)
 {
-    auto bundle = testing::PluginBundle();
+    auto bundle = testing::EnglishPluginBundle();
     Stock stock;
     DefaultStock(stock, JobContext::Job);
     stock.setCustomName("Old");

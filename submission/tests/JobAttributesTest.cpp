@@ -10,7 +10,7 @@
 #include "specialpages/SpecialPageKeys.h"
 #include "submission/CopiesAndPages.h"
 #include "submission/tests/IppText.h"
-#include "submission/tests/QStringPrinter.h"
+#include "tests/support/TestData.h"
 
 #include <QDateTime>
 

@@ -3,7 +3,7 @@
 #include "submission/PrinterSupport.h"
 #include "submission/Submission.h"
 #include "submission/tests/IppText.h"
-#include "submission/tests/QStringPrinter.h"
+#include "tests/support/TestData.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -2,6 +2,8 @@
 // options over a small map.
 #pragma once
 
+#include "tests/support/TestData.h"
+
 #include "settings/Bundle.h"
 #include "settings/Preferences.h"
 #include "settings/SettingMapAccess.h"
@@ -10,12 +12,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-// Readable QStrings in failure messages.
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace orvan::testing {
 
